@@ -1,0 +1,188 @@
+#include "gallery/Wkt.h"
+
+#include <gtest/gtest.h>
+
+
+using gallery::parseWkt;
+using gallery::WktError;
+using gallery::WktLines;
+
+namespace {
+
+// One letter a figure: its number of points, 'o' behind it when it is a ring.
+std::string figuresOf(const WktLines& lines) {
+    std::string text;
+    for (const gallery::WktFigure& figure : lines.figures) {
+        text += std::to_string(figure.count) + (figure.closed ? "o " : " ");
+    }
+    return text;
+}
+
+struct AcceptRow {
+    const char* text;
+    const char* figures;
+    double lastX, lastY; // of the last point kept
+};
+
+const AcceptRow acceptRows[] = {
+    {"LINESTRING(1 2,3 4)", "2 ", 3, 4},
+    {"linestring ( 1\t2 , 3  4 ) ", "2 ", 3, 4},
+    {"LineString(-1.5e2 +.5,1. 2,7 8)", "3 ", 7, 8},
+    {"LINESTRING(0 0,-1e15 1E15)", "2 ", -1e15, 1e15},
+    {"LINESTRING Z (1 2 9,3 4 9)", "2 ", 3, 4},
+    {"LINESTRINGZM(1 2 9 8,3 4 9 8)", "2 ", 3, 4},
+    {"linestring m(1 2 9,3 4 9)", "2 ", 3, 4},
+    {"LINESTRING(1 2 9,3 4 9)", "2 ", 3, 4},
+    {"MULTILINESTRING((1 2,3 4),(5 6,7 8,9 10))", "2 3 ", 9, 10},
+    {"POLYGON((0 0,4 0,4 3,0 0))", "3o ", 4, 3},
+    {"POLYGON((0 0,9 0,9 9,0 9,0 0),(1 1,2 1,2 2,1 1))", "4o 3o ", 2, 2},
+    {"MULTIPOLYGON(((0 0,4 0,4 3,0 0)),((5 5,6 5,6 6,5 5),(5 5,6 5,6 7,5 5)))", "3o 3o 3o ", 6, 7},
+    {"POLYGON Z ((0 0 1,4 0 2,4 3 3,0 0 4))", "3o ", 4, 3},
+    {"MULTILINESTRING(EMPTY,(1 2,3 4))", "2 ", 3, 4},
+    {"LINESTRING(1 2,3 4)\nPOINT(8 8)\nPOINT Z EMPTY", "2 ", 3, 4},
+    {"\xEF\xBB\xBFLINESTRING(1 2,3 4)\r\n\r\n# a comment\r\n  LINESTRING(5 6,7 8) # another\r\n", "2 2 ", 7,
+     8},
+    {"# \xB1\xB1\xBE\xA9 (((\nLINESTRING(1 2,3 4)", "2 ", 3, 4},
+    // The dimension belongs to its geometry alone.
+    {"LINESTRING(1 2 9,3 4 9)\nLINESTRING(1 2,3 4)", "2 2 ", 3, 4},
+    // A line that ends where it began is a line still.
+    {"LINESTRING(0 0,4 0,4 3,0 0)", "4 ", 0, 0},
+};
+
+TEST(Wkt, Accepts) {
+    for (const AcceptRow& row : acceptRows) {
+        SCOPED_TRACE(row.text);
+        WktLines lines;
+        WktError error;
+        ASSERT_TRUE(parseWkt(row.text, lines, error))
+            << error.line << ":" << error.column << ": " << error.text;
+        EXPECT_EQ(figuresOf(lines), row.figures);
+        EXPECT_EQ(lines.points.back().x, row.lastX);
+        EXPECT_EQ(lines.points.back().y, row.lastY);
+    }
+}
+
+TEST(Wkt, TextsWithoutLinesGiveNone) {
+    for (const char* text : {"", "\n\n", "# nothing", "POINT(1 2)", "LINESTRING EMPTY", "multipolygon empty",
+                             "POLYGON ZM EMPTY", "\xEF\xBB\xBF", "\r\n"}) {
+        SCOPED_TRACE(text);
+        WktLines lines;
+        WktError error;
+        EXPECT_TRUE(parseWkt(text, lines, error)) << error.text;
+        EXPECT_TRUE(lines.figures.empty());
+    }
+}
+
+struct RejectRow {
+    const char* text;
+    size_t line, column;
+    const char* part; // of the message
+};
+
+const RejectRow rejectRows[] = {
+    {"LINESTRING(1 2,3 4", 1, 19, "found the end of the line"},
+    {"LINESTRING(1 2,3 4\n)", 1, 19, "found the end of the line"},
+    {"LINESTRING(1 2,3 4))", 1, 20, "after the geometry"},
+    {"LINESTRING(1 2,3 4) LINESTRING(1 2,3 4)", 1, 21, "after the geometry"},
+    {"LINESTRING", 1, 11, "'(' or EMPTY"},
+    {"LINESTRING 1 2,3 4", 1, 12, "'(' or EMPTY"},
+    {"LINESTRING()", 1, 12, "expected a number, found ')'"},
+    {"LINESTRING(1 2,)", 1, 16, "expected a number"},
+    {"LINESTRING(1 2)", 1, 15, "at least two points"},
+    {"LINESTRING(1,2)", 1, 13, "expected a number, found ','"},
+    {"LINESTRING((1 2,3 4))", 1, 12, "expected a number, found '('"},
+    {"LINESTRING(1 2 3 4 5,6 7)", 1, 20, "',' or ')'"},
+    {"LINESTRING(1 2 3 4, 5 6)", 1, 24, "expected a number"}, // a comma forgotten
+    {"LINESTRING(1 2,3 4 5)", 1, 20, "',' or ')'"},
+    {"LINESTRING Z (1 2,3 4)", 1, 18, "expected a number"},
+    {"LINESTRING ZM (1 2 3,3 4 5)", 1, 21, "expected a number"},
+    {"LINESTRING(nan 2,3 4)", 1, 12, "expected a number, found 'n'"},
+    {"LINESTRING(1 inf,3 4)", 1, 14, "expected a number"},
+    {"LINESTRING(1 -inf,3 4)", 1, 15, "expected a digit"},
+    {"LINESTRING(1e999 2,3 4)", 1, 12, "out of range"},
+    {"LINESTRING(1 2,3 -1.1e15)", 1, 18, "out of range"},
+    {"LINESTRING(. 2,3 4)", 1, 12, "expected a number"},
+    {"LINESTRING(--1 2,3 4)", 1, 13, "expected a digit"},
+    {"LINESTRING(0x10 2,3 4)", 1, 13, "after the number"},
+    {"LINESTRING(1.2.3 2,3 4)", 1, 15, "after the number"},
+    {"LINESTRING(1;2,3 4)", 1, 13, "after the number"},
+    {"POLYGON((0 0,4 0,4 3,0 1))", 1, 25, "not closed"},
+    {"POLYGON((0 0,4 0,0 0))", 1, 21, "at least four points"},
+    {"POLYGON((0 0))", 1, 13, "at least four points"},
+    {"POLYGON(0 0,4 0,4 3,0 0)", 1, 9, "'(' or EMPTY"},
+    {"POLYGON((((0 0,4 0,4 3,0 0))))", 1, 10, "expected a number"},
+    {"MULTIPOLYGON((0 0,4 0,4 3,0 0))", 1, 15, "'(' or EMPTY"},
+    {"MULTIPOLYGON(((0 0,4 0,4 3,0 0))", 1, 33, "',' or ')'"},
+    {"POINT(1)", 1, 8, "expected a number"},
+    {"POINT(1 2,3 4)", 1, 10, "expected ')'"},
+    {"GEOMETRYCOLLECTION(POINT(1 2))", 1, 1, "not a geometry that can be drawn"},
+    {"LINESTRINGX(1 2,3 4)", 1, 1, "not a geometry that can be drawn"},
+    {"LINE STRING(1 2,3 4)", 1, 1, "not a geometry that can be drawn"},
+    {"\n\r\n  42", 3, 3, "expected a geometry, found '4'"},
+    {"\xEF\xBB\xBF?", 1, 1, "expected a geometry, found '?'"},
+    {"\xFF\xFEL", 1, 1, "byte 0xFF"},
+    {"LINESTRING(1 2,3 4)\nLINESTRING(1 2,3 4)\nLINESTRING(1 2,3 x)", 3, 18, "expected a number"},
+};
+
+TEST(Wkt, RejectsAndPointsAtTheFault) {
+    for (const RejectRow& row : rejectRows) {
+        SCOPED_TRACE(row.text);
+        WktLines lines;
+        WktError error;
+        EXPECT_FALSE(parseWkt(row.text, lines, error));
+        EXPECT_EQ(error.line, row.line);
+        EXPECT_EQ(error.column, row.column) << error.text;
+        EXPECT_NE(error.text.find(row.part), std::string::npos) << error.text;
+        EXPECT_TRUE(lines.points.empty() && lines.figures.empty());
+    }
+}
+
+TEST(Wkt, RejectsEveryTruncation) {
+    const std::string whole = "MULTIPOLYGON(((0 0,4 0,4 3,0 0)),((5 5,6 5,6 6,5 5)))";
+    for (size_t length = 1; length < whole.size(); ++length) {
+        WktLines lines;
+        WktError error;
+        EXPECT_FALSE(parseWkt(whole.substr(0, length), lines, error)) << length;
+        EXPECT_LE(error.column, length + 1);
+    }
+}
+
+TEST(Wkt, ReadsBytesThatAreNoText) {
+    WktLines lines;
+    WktError error;
+    EXPECT_FALSE(parseWkt(std::string_view("LINESTRING(1 2\0,3 4)", 20), lines, error));
+    EXPECT_EQ(error.column, 15u);
+    EXPECT_NE(error.text.find("byte 0x00"), std::string::npos) << error.text;
+}
+
+std::string longLine(size_t points) {
+    std::string text = "LINESTRING(0 0";
+    for (size_t i = 1; i < points; ++i) {
+        text += "," + std::to_string(i) + ".25 " + std::to_string(i % 1000);
+    }
+    return text + ")";
+}
+
+TEST(Wkt, TenMegabytesInOneLine) {
+    const std::string text = longLine(800'000);
+    ASSERT_GT(text.size(), 10'000'000u);
+    WktLines lines;
+    WktError error;
+    EXPECT_TRUE(parseWkt(text, lines, error)) << error.text;
+    EXPECT_EQ(lines.points.size(), 800'000u);
+}
+
+TEST(Wkt, LongRunsOfOneByteEndQuickly) {
+    // Each would take hours if anything were scanned again from its start.
+    for (const char* run : {"(", " ", "1", "A", "\n", "-", "0.", "#", ","}) {
+        std::string text = "LINESTRING(";
+        while (text.size() < 4'000'000) {
+            text += run;
+        }
+        WktLines lines;
+        WktError error;
+        EXPECT_FALSE(parseWkt(text, lines, error)) << run;
+    }
+}
+
+} // namespace
