@@ -1,0 +1,5 @@
+#pragma once
+
+// Included by the one source of an extension DLL that holds its DllMain.
+
+#include <afxwin.h>
