@@ -6,11 +6,11 @@
 #include "orvafx.h"
 #include "atltypes.h"
 #include "afxstr.h"
-#include "afx_debug.h"
-#include "afx_object.h"
-#include "afx_except.h"
-#include "afx_file.h"
-#include "afx_archive.h"
+#include "afxdebug_.h"
+#include "afxobject_.h"
+#include "afxexcept_.h"
+#include "afxfile_.h"
+#include "afxarchive_.h"
 
 // Where Dump writes to: a file, or the debugger.
 class ORVAFX_API CDumpContext {

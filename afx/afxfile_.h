@@ -2,7 +2,7 @@
 
 // Files and memory files.
 
-#include "afx_except.h"
+#include "afxexcept_.h"
 
 // What GetStatus tells of a file. The times are the system's (UTC), where MFC has CTime.
 struct CFileStatus {

@@ -3,7 +3,7 @@
 // The binary stream that objects are stored in, byte for byte MFC's: little-endian values, length-prefixed
 // strings, objects with class tags.
 
-#include "afx_file.h"
+#include "afxfile_.h"
 
 class CDocument;
 struct OrvArchiveMap;

@@ -2,7 +2,7 @@
 
 // Exceptions are thrown by pointer. Whoever catches one calls Delete, unless END_CATCH does it.
 
-#include "afx_object.h"
+#include "afxobject_.h"
 
 class ORVAFX_API CException : public CObject {
     DECLARE_DYNAMIC(CException)

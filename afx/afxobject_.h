@@ -2,7 +2,7 @@
 
 // CObject and run-time classes.
 
-#include "afx_debug.h"
+#include "afxdebug_.h"
 
 class CArchive;
 class CDumpContext;
@@ -51,6 +51,10 @@ ORVAFX_API void AfxUnregisterRuntimeClass(const CRuntimeClass* pClass);
 // Schema numbers of classes that can read older versions of themselves.
 #define VERSIONABLE_SCHEMA 0x80000000u
 
+// Memory of this foundation's own; AfxThrowMemoryException when there is none.
+ORVAFX_API void* OrvAlloc(size_t nSize);
+ORVAFX_API void OrvFree(void* p);
+
 // Base of everything that has a run-time class, can be stored in an archive, checked and dumped.
 class ORVAFX_API CObject {
 public:
@@ -59,6 +63,11 @@ public:
 
     CObject(const CObject&) = delete;
     CObject& operator=(const CObject&) = delete;
+
+    static void* PASCAL operator new(size_t nSize) { return OrvAlloc(nSize); }
+    static void* PASCAL operator new(size_t, void* p) { return p; }
+    static void PASCAL operator delete(void* p) { OrvFree(p); }
+    static void PASCAL operator delete(void*, void*) {}
 
     BOOL IsSerializable() const;
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
