@@ -1,0 +1,12 @@
+#include "Sheets.h"
+
+namespace gallery {
+
+std::span<const Sheet> sheets() {
+    static const Sheet all[] = {
+        {"lines", 1280, 1120, drawLineSheet},
+    };
+    return all;
+}
+
+} // namespace gallery

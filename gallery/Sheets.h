@@ -1,0 +1,21 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <span>
+
+namespace gallery {
+
+// One picture of the tour. Each sheet has a source file of its own and a row in Sheets.cpp.
+struct Sheet {
+    const char* name; // of the picture, without ".png"
+    int width;        // pixels
+    int height;
+    void (*draw)(CDC& dc); // on white paper of this size
+};
+
+std::span<const Sheet> sheets();
+
+void drawLineSheet(CDC& dc);
+
+} // namespace gallery
