@@ -34,7 +34,9 @@ CDC* PASCAL CDC::FromHandle(HDC hDC) {
     return dc;
 }
 
-void PASCAL CDC::DeleteTempMap() { threadState().deviceContexts.deleteTemporary(); }
+void PASCAL CDC::DeleteTempMap() {
+    threadState().deviceContexts.deleteTemporary();
+}
 
 BOOL CDC::Attach(HDC hDC) {
     ASSERT(m_hDC == NULL);
@@ -66,14 +68,18 @@ BOOL CDC::CreateIC(LPCTSTR lpszDriver, LPCTSTR lpszDevice, LPCTSTR lpszOutput, c
     return Attach(::CreateICA(lpszDriver, lpszDevice, lpszOutput, static_cast<const DEVMODEA*>(lpInitData)));
 }
 
-BOOL CDC::CreateCompatibleDC(CDC* pDC) { return Attach(::CreateCompatibleDC(pDC->GetSafeHdc())); }
+BOOL CDC::CreateCompatibleDC(CDC* pDC) {
+    return Attach(::CreateCompatibleDC(pDC->GetSafeHdc()));
+}
 
 BOOL CDC::DeleteDC() {
     HDC handle = Detach();
     return handle && ::DeleteDC(handle);
 }
 
-CWnd* CDC::GetWindow() const { return CWnd::FromHandle(::WindowFromDC(m_hDC)); }
+CWnd* CDC::GetWindow() const {
+    return CWnd::FromHandle(::WindowFromDC(m_hDC));
+}
 
 int CDC::SaveDC() {
     if (m_hAttribDC && m_hAttribDC != m_hDC && ::SaveDC(m_hAttribDC) == 0)
@@ -90,8 +96,8 @@ BOOL CDC::RestoreDC(int nSavedDC) {
 
 namespace {
 
-// Sets an attribute in the output context and, when it is another one (metafiles), in the attribute context, whose
-// answer counts.
+// Sets an attribute in the output context and, when it is another one (metafiles), in the attribute context,
+// whose answer counts.
 template <class Setter>
 auto onBoth(HDC output, HDC attributes, Setter setter) {
     auto result = setter(output);
@@ -109,7 +115,9 @@ CGdiObject* CDC::SelectStockObject(int nIndex) {
     return CGdiObject::FromHandle(ON_BOTH(::SelectObject(hdc, stock)));
 }
 
-CPen* CDC::SelectObject(CPen* pPen) { return static_cast<CPen*>(SelectObject(static_cast<CGdiObject*>(pPen))); }
+CPen* CDC::SelectObject(CPen* pPen) {
+    return static_cast<CPen*>(SelectObject(static_cast<CGdiObject*>(pPen)));
+}
 
 CBrush* CDC::SelectObject(CBrush* pBrush) {
     return static_cast<CBrush*>(SelectObject(static_cast<CGdiObject*>(pBrush)));
@@ -166,15 +174,33 @@ CPoint CDC::GetBrushOrg() const {
     return point;
 }
 
-COLORREF CDC::SetBkColor(COLORREF crColor) { return ON_BOTH(::SetBkColor(hdc, crColor)); }
-int CDC::SetBkMode(int nBkMode) { return ON_BOTH(::SetBkMode(hdc, nBkMode)); }
-int CDC::SetPolyFillMode(int nPolyFillMode) { return ON_BOTH(::SetPolyFillMode(hdc, nPolyFillMode)); }
-int CDC::SetROP2(int nDrawMode) { return ON_BOTH(::SetROP2(hdc, nDrawMode)); }
-int CDC::SetStretchBltMode(int nStretchMode) { return ON_BOTH(::SetStretchBltMode(hdc, nStretchMode)); }
-COLORREF CDC::SetTextColor(COLORREF crColor) { return ON_BOTH(::SetTextColor(hdc, crColor)); }
-UINT CDC::SetTextAlign(UINT nFlags) { return ON_BOTH(::SetTextAlign(hdc, nFlags)); }
-int CDC::SetTextCharacterExtra(int nCharExtra) { return ON_BOTH(::SetTextCharacterExtra(hdc, nCharExtra)); }
-int CDC::SetArcDirection(int nArcDirection) { return ON_BOTH(::SetArcDirection(hdc, nArcDirection)); }
+COLORREF CDC::SetBkColor(COLORREF crColor) {
+    return ON_BOTH(::SetBkColor(hdc, crColor));
+}
+int CDC::SetBkMode(int nBkMode) {
+    return ON_BOTH(::SetBkMode(hdc, nBkMode));
+}
+int CDC::SetPolyFillMode(int nPolyFillMode) {
+    return ON_BOTH(::SetPolyFillMode(hdc, nPolyFillMode));
+}
+int CDC::SetROP2(int nDrawMode) {
+    return ON_BOTH(::SetROP2(hdc, nDrawMode));
+}
+int CDC::SetStretchBltMode(int nStretchMode) {
+    return ON_BOTH(::SetStretchBltMode(hdc, nStretchMode));
+}
+COLORREF CDC::SetTextColor(COLORREF crColor) {
+    return ON_BOTH(::SetTextColor(hdc, crColor));
+}
+UINT CDC::SetTextAlign(UINT nFlags) {
+    return ON_BOTH(::SetTextAlign(hdc, nFlags));
+}
+int CDC::SetTextCharacterExtra(int nCharExtra) {
+    return ON_BOTH(::SetTextCharacterExtra(hdc, nCharExtra));
+}
+int CDC::SetArcDirection(int nArcDirection) {
+    return ON_BOTH(::SetArcDirection(hdc, nArcDirection));
+}
 
 int CDC::SetTextJustification(int nBreakExtra, int nBreakCount) {
     return ON_BOTH(::SetTextJustification(hdc, nBreakExtra, nBreakCount));
@@ -211,12 +237,22 @@ CSize askSize(GetSize get, HDC hdc) {
 
 } // namespace
 
-CPoint CDC::GetViewportOrg() const { return askPoint(::GetViewportOrgEx, m_hAttribDC); }
-CSize CDC::GetViewportExt() const { return askSize(::GetViewportExtEx, m_hAttribDC); }
-CPoint CDC::GetWindowOrg() const { return askPoint(::GetWindowOrgEx, m_hAttribDC); }
-CSize CDC::GetWindowExt() const { return askSize(::GetWindowExtEx, m_hAttribDC); }
+CPoint CDC::GetViewportOrg() const {
+    return askPoint(::GetViewportOrgEx, m_hAttribDC);
+}
+CSize CDC::GetViewportExt() const {
+    return askSize(::GetViewportExtEx, m_hAttribDC);
+}
+CPoint CDC::GetWindowOrg() const {
+    return askPoint(::GetWindowOrgEx, m_hAttribDC);
+}
+CSize CDC::GetWindowExt() const {
+    return askSize(::GetWindowExtEx, m_hAttribDC);
+}
 
-int CDC::SetMapMode(int nMapMode) { return ON_BOTH(::SetMapMode(hdc, nMapMode)); }
+int CDC::SetMapMode(int nMapMode) {
+    return ON_BOTH(::SetMapMode(hdc, nMapMode));
+}
 
 CPoint CDC::SetViewportOrg(int x, int y) {
     POINT old = {0, 0};
@@ -273,15 +309,21 @@ int CDC::SelectClipRgn(CRgn* pRgn, int nMode) {
     return ON_BOTH(::ExtSelectClipRgn(hdc, region, nMode));
 }
 
-int CDC::ExcludeClipRect(LPCRECT r) { return ON_BOTH(::ExcludeClipRect(hdc, r->left, r->top, r->right, r->bottom)); }
+int CDC::ExcludeClipRect(LPCRECT r) {
+    return ON_BOTH(::ExcludeClipRect(hdc, r->left, r->top, r->right, r->bottom));
+}
 
 int CDC::IntersectClipRect(int x1, int y1, int x2, int y2) {
     return ON_BOTH(::IntersectClipRect(hdc, x1, y1, x2, y2));
 }
 
-int CDC::OffsetClipRgn(int x, int y) { return ON_BOTH(::OffsetClipRgn(hdc, x, y)); }
+int CDC::OffsetClipRgn(int x, int y) {
+    return ON_BOTH(::OffsetClipRgn(hdc, x, y));
+}
 
-CPoint CDC::GetCurrentPosition() const { return askPoint(::GetCurrentPositionEx, m_hAttribDC); }
+CPoint CDC::GetCurrentPosition() const {
+    return askPoint(::GetCurrentPositionEx, m_hAttribDC);
+}
 
 CPoint CDC::MoveTo(int x, int y) {
     POINT old = {0, 0};
@@ -307,7 +349,8 @@ BOOL CDC::PlayMetaFile(HENHMETAFILE hEnhMetaFile, LPCRECT lpBounds) {
 void CDC::Dump(CDumpContext& dc) const {
     CObject::Dump(dc);
     dc << "m_hDC = " << static_cast<const void*>(m_hDC)
-       << "\nm_hAttribDC = " << static_cast<const void*>(m_hAttribDC) << "\nm_bPrinting = " << m_bPrinting << "\n";
+       << "\nm_hAttribDC = " << static_cast<const void*>(m_hAttribDC) << "\nm_bPrinting = " << m_bPrinting
+       << "\n";
 }
 
 namespace {
@@ -320,15 +363,21 @@ HDC requireContext(HDC hdc) {
 
 } // namespace
 
-CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) { Attach(requireContext(::GetDC(m_hWnd))); }
+CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {
+    Attach(requireContext(::GetDC(m_hWnd)));
+}
 
-CClientDC::~CClientDC() { ::ReleaseDC(m_hWnd, Detach()); }
+CClientDC::~CClientDC() {
+    ::ReleaseDC(m_hWnd, Detach());
+}
 
 CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {
     Attach(requireContext(::GetWindowDC(m_hWnd)));
 }
 
-CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
+CWindowDC::~CWindowDC() {
+    ::ReleaseDC(m_hWnd, Detach());
+}
 
 CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()) {
     Attach(requireContext(::BeginPaint(m_hWnd, &m_ps)));
@@ -344,8 +393,11 @@ CMetaFileDC::~CMetaFileDC() {
         ::DeleteEnhMetaFile(CloseEnhanced());
 }
 
-BOOL CMetaFileDC::CreateEnhanced(CDC* pDCRef, LPCTSTR lpszFileName, LPCRECT lpBounds, LPCTSTR lpszDescription) {
+BOOL CMetaFileDC::CreateEnhanced(CDC* pDCRef, LPCTSTR lpszFileName, LPCRECT lpBounds,
+                                 LPCTSTR lpszDescription) {
     return Attach(::CreateEnhMetaFileA(pDCRef->GetSafeHdc(), lpszFileName, lpBounds, lpszDescription));
 }
 
-HENHMETAFILE CMetaFileDC::CloseEnhanced() { return ::CloseEnhMetaFile(Detach()); }
+HENHMETAFILE CMetaFileDC::CloseEnhanced() {
+    return ::CloseEnhMetaFile(Detach());
+}

@@ -56,9 +56,13 @@ BOOL CDC::DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState) {
     return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
 }
 
-BOOL CDC::FillRgn(CRgn* pRgn, CBrush* pBrush) { return ::FillRgn(m_hDC, *pRgn, *pBrush); }
+BOOL CDC::FillRgn(CRgn* pRgn, CBrush* pBrush) {
+    return ::FillRgn(m_hDC, *pRgn, *pBrush);
+}
 
-BOOL CDC::PaintRgn(CRgn* pRgn) { return ::PaintRgn(m_hDC, *pRgn); }
+BOOL CDC::PaintRgn(CRgn* pRgn) {
+    return ::PaintRgn(m_hDC, *pRgn);
+}
 
 BOOL CDC::PatBlt(int x, int y, int nWidth, int nHeight, DWORD dwRop) {
     return ::PatBlt(m_hDC, x, y, nWidth, nHeight, dwRop);

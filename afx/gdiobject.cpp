@@ -34,8 +34,8 @@ CGdiObject* newObjectOfKind(HGDIOBJ handle) {
     }
 }
 
-// The object when it is of the class asked for. A handle that was freed and used again for another kind of object
-// may still be known under its old class: such an entry is dropped.
+// The object when it is of the class asked for. A handle that was freed and used again for another kind of
+// object may still be known under its old class: such an entry is dropped.
 template <class T>
 T* typedFromHandle(HGDIOBJ handle) {
     CGdiObject* object = CGdiObject::FromHandle(handle);
@@ -54,7 +54,9 @@ void throwUnless(BOOL created) {
 
 } // namespace
 
-CGdiObject::~CGdiObject() { DeleteObject(); }
+CGdiObject::~CGdiObject() {
+    DeleteObject();
+}
 
 // Compilers may take "this" for never null in a member; the volatile copy keeps the test that hosts rely on.
 HGDIOBJ CGdiObject::GetSafeHandle() const {
@@ -76,7 +78,9 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
     return object;
 }
 
-void PASCAL CGdiObject::DeleteTempMap() { threadState().gdiObjects.deleteTemporary(); }
+void PASCAL CGdiObject::DeleteTempMap() {
+    threadState().gdiObjects.deleteTemporary();
+}
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {
     if (!hObject)
@@ -108,14 +112,28 @@ void CGdiObject::Dump(CDumpContext& dc) const {
     dc << "m_hObject = " << static_cast<const void*>(m_hObject) << "\n";
 }
 
-CPen* PASCAL CPen::FromHandle(HPEN hPen) { return typedFromHandle<CPen>(hPen); }
-CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush) { return typedFromHandle<CBrush>(hBrush); }
-CFont* PASCAL CFont::FromHandle(HFONT hFont) { return typedFromHandle<CFont>(hFont); }
-CBitmap* PASCAL CBitmap::FromHandle(HBITMAP hBitmap) { return typedFromHandle<CBitmap>(hBitmap); }
-CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette) { return typedFromHandle<CPalette>(hPalette); }
-CRgn* PASCAL CRgn::FromHandle(HRGN hRgn) { return typedFromHandle<CRgn>(hRgn); }
+CPen* PASCAL CPen::FromHandle(HPEN hPen) {
+    return typedFromHandle<CPen>(hPen);
+}
+CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush) {
+    return typedFromHandle<CBrush>(hBrush);
+}
+CFont* PASCAL CFont::FromHandle(HFONT hFont) {
+    return typedFromHandle<CFont>(hFont);
+}
+CBitmap* PASCAL CBitmap::FromHandle(HBITMAP hBitmap) {
+    return typedFromHandle<CBitmap>(hBitmap);
+}
+CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette) {
+    return typedFromHandle<CPalette>(hPalette);
+}
+CRgn* PASCAL CRgn::FromHandle(HRGN hRgn) {
+    return typedFromHandle<CRgn>(hRgn);
+}
 
-CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor) { throwUnless(CreatePen(nPenStyle, nWidth, crColor)); }
+CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor) {
+    throwUnless(CreatePen(nPenStyle, nWidth, crColor));
+}
 
 CPen::CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount, const DWORD* lpStyle) {
     throwUnless(CreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle));
@@ -130,11 +148,19 @@ BOOL CPen::CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int n
     return Attach(::ExtCreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle));
 }
 
-BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen) { return Attach(::CreatePenIndirect(lpLogPen)); }
+BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen) {
+    return Attach(::CreatePenIndirect(lpLogPen));
+}
 
-CBrush::CBrush(COLORREF crColor) { throwUnless(CreateSolidBrush(crColor)); }
-CBrush::CBrush(int nIndex, COLORREF crColor) { throwUnless(CreateHatchBrush(nIndex, crColor)); }
-CBrush::CBrush(CBitmap* pBitmap) { throwUnless(CreatePatternBrush(pBitmap)); }
+CBrush::CBrush(COLORREF crColor) {
+    throwUnless(CreateSolidBrush(crColor));
+}
+CBrush::CBrush(int nIndex, COLORREF crColor) {
+    throwUnless(CreateHatchBrush(nIndex, crColor));
+}
+CBrush::CBrush(CBitmap* pBitmap) {
+    throwUnless(CreatePatternBrush(pBitmap));
+}
 
 BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
     return Attach(::CreatePatternBrush(static_cast<HBITMAP>(pBitmap->GetSafeHandle())));
@@ -144,8 +170,8 @@ BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientatio
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision,
                        BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
     return Attach(::CreateFontA(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline,
-                                cStrikeOut, nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily,
-                                lpszFacename));
+                                cStrikeOut, nCharSet, nOutPrecision, nClipPrecision, nQuality,
+                                nPitchAndFamily, lpszFacename));
 }
 
 BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
@@ -156,7 +182,8 @@ BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
     return CreatePointFontIndirect(&font, pDC);
 }
 
-// lfHeight comes in tenths of a point and is turned into logical units of pDC, downwards from its window origin.
+// lfHeight comes in tenths of a point and is turned into logical units of pDC, downwards from its window
+// origin.
 BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
     HDC hdc = pDC ? pDC->m_hAttribDC : ::GetDC(NULL);
     LOGFONT font = *lpLogFont;
@@ -211,22 +238,38 @@ UINT CPalette::GetNearestPaletteIndex(COLORREF crColor) const {
     return ::GetNearestPaletteIndex(*this, crColor);
 }
 
-BOOL CPalette::ResizePalette(UINT nNumEntries) { return ::ResizePalette(*this, nNumEntries); }
+BOOL CPalette::ResizePalette(UINT nNumEntries) {
+    return ::ResizePalette(*this, nNumEntries);
+}
 
 BOOL CRgn::CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode) {
     return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
 }
 
-BOOL CRgn::CreateFromPath(CDC* pDC) { return Attach(::PathToRegion(pDC->m_hDC)); }
+BOOL CRgn::CreateFromPath(CDC* pDC) {
+    return Attach(::PathToRegion(pDC->m_hDC));
+}
 
 int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) {
     return ::CombineRgn(*this, static_cast<HRGN>(pRgn1->GetSafeHandle()),
                         static_cast<HRGN>(pRgn2->GetSafeHandle()), nCombineMode);
 }
 
-BOOL CRgn::EqualRgn(const CRgn* pRgn) const { return ::EqualRgn(*this, *pRgn); }
-int CRgn::OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
-int CRgn::GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
-BOOL CRgn::PtInRegion(int x, int y) const { return ::PtInRegion(*this, x, y); }
-BOOL CRgn::RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
-void CRgn::SetRectRgn(int x1, int y1, int x2, int y2) { ::SetRectRgn(*this, x1, y1, x2, y2); }
+BOOL CRgn::EqualRgn(const CRgn* pRgn) const {
+    return ::EqualRgn(*this, *pRgn);
+}
+int CRgn::OffsetRgn(int x, int y) {
+    return ::OffsetRgn(*this, x, y);
+}
+int CRgn::GetRgnBox(LPRECT lpRect) const {
+    return ::GetRgnBox(*this, lpRect);
+}
+BOOL CRgn::PtInRegion(int x, int y) const {
+    return ::PtInRegion(*this, x, y);
+}
+BOOL CRgn::RectInRegion(LPCRECT lpRect) const {
+    return ::RectInRegion(*this, lpRect);
+}
+void CRgn::SetRectRgn(int x1, int y1, int x2, int y2) {
+    ::SetRectRgn(*this, x1, y1, x2, y2);
+}

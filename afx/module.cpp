@@ -39,7 +39,9 @@ HINSTANCE findInChain(Found found) {
 }
 
 // Strings lie in blocks of sixteen.
-LPCTSTR stringBlock(UINT id) { return MAKEINTRESOURCEA((id >> 4) + 1); }
+LPCTSTR stringBlock(UINT id) {
+    return MAKEINTRESOURCEA((id >> 4) + 1);
+}
 
 bool holdsString(HINSTANCE module, UINT id) {
     // A block may exist for the sake of a neighbour: ask for the string itself.
@@ -54,13 +56,19 @@ HINSTANCE AFXAPI AfxGetInstanceHandle() {
     return instanceHandle ? instanceHandle : ::GetModuleHandleA(NULL);
 }
 
-HINSTANCE AFXAPI AfxGetResourceHandle() { return resourceHandle ? resourceHandle : AfxGetInstanceHandle(); }
+HINSTANCE AFXAPI AfxGetResourceHandle() {
+    return resourceHandle ? resourceHandle : AfxGetInstanceHandle();
+}
 
-void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) { resourceHandle = hInstResource; }
+void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
+    resourceHandle = hInstResource;
+}
 
 namespace orvafx {
 
-void setInstanceHandle(HINSTANCE instance) { instanceHandle = instance; }
+void setInstanceHandle(HINSTANCE instance) {
+    instanceHandle = instance;
+}
 
 } // namespace orvafx
 
@@ -109,7 +117,8 @@ CDynLinkLibrary::~CDynLinkLibrary() {
 }
 
 HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
-    HINSTANCE module = findInChain([&](HINSTANCE m) { return ::FindResourceA(m, lpszName, lpszType) != NULL; });
+    HINSTANCE module =
+        findInChain([&](HINSTANCE m) { return ::FindResourceA(m, lpszName, lpszType) != NULL; });
     return module ? module : AfxGetResourceHandle();
 }
 

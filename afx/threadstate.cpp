@@ -7,7 +7,9 @@ namespace {
 
 DWORD slot = TLS_OUT_OF_INDEXES;
 
-void releaseGdiObject(CObject* object) { static_cast<CGdiObject*>(object)->m_hObject = NULL; }
+void releaseGdiObject(CObject* object) {
+    static_cast<CGdiObject*>(object)->m_hObject = NULL;
+}
 
 void releaseDeviceContext(CObject* object) {
     auto* dc = static_cast<CDC*>(object);
@@ -15,7 +17,9 @@ void releaseDeviceContext(CObject* object) {
     dc->m_hAttribDC = NULL;
 }
 
-void releaseWindow(CObject* object) { static_cast<CWnd*>(object)->m_hWnd = NULL; }
+void releaseWindow(CObject* object) {
+    static_cast<CWnd*>(object)->m_hWnd = NULL;
+}
 
 } // namespace
 
@@ -96,7 +100,9 @@ void freeThreadSlot() {
 
 } // namespace orvafx
 
-void AFXAPI AfxLockTempMaps() { ++orvafx::threadState().tempLocks; }
+void AFXAPI AfxLockTempMaps() {
+    ++orvafx::threadState().tempLocks;
+}
 
 BOOL AFXAPI AfxUnlockTempMaps(BOOL bDeleteTemps) {
     orvafx::ThreadState& state = orvafx::threadState();

@@ -83,10 +83,18 @@ HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
     return ::LoadCursorA(AfxFindResourceHandle(name, RT_GROUP_CURSOR), name);
 }
 
-CWinApp* AFXAPI AfxGetApp() { return theApp; }
-CWinThread* AFXAPI AfxGetThread() { return theApp; }
-LPCTSTR AFXAPI AfxGetAppName() { return theApp ? theApp->m_pszAppName : NULL; }
-CWnd* AFXAPI AfxGetMainWnd() { return theApp ? theApp->m_pMainWnd : NULL; }
+CWinApp* AFXAPI AfxGetApp() {
+    return theApp;
+}
+CWinThread* AFXAPI AfxGetThread() {
+    return theApp;
+}
+LPCTSTR AFXAPI AfxGetAppName() {
+    return theApp ? theApp->m_pszAppName : NULL;
+}
+CWnd* AFXAPI AfxGetMainWnd() {
+    return theApp ? theApp->m_pMainWnd : NULL;
+}
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
     orvafx::setInstanceHandle(hInstance);

@@ -6,7 +6,9 @@ using orvafx::threadState;
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
-CWnd::~CWnd() { Detach(); }
+CWnd::~CWnd() {
+    Detach();
+}
 
 HWND CWnd::GetSafeHwnd() const {
     const CWnd* const volatile self = this;
@@ -31,7 +33,9 @@ CWnd* PASCAL CWnd::FromHandle(HWND hWnd) {
     return window;
 }
 
-CWnd* PASCAL CWnd::GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
+CWnd* PASCAL CWnd::GetDesktopWindow() {
+    return FromHandle(::GetDesktopWindow());
+}
 
 BOOL CWnd::Attach(HWND hWndNew) {
     ASSERT(m_hWnd == NULL);
@@ -52,5 +56,9 @@ HWND CWnd::Detach() {
     return handle;
 }
 
-void CWnd::GetClientRect(LPRECT lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
-void CWnd::GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
+void CWnd::GetClientRect(LPRECT lpRect) const {
+    ::GetClientRect(m_hWnd, lpRect);
+}
+void CWnd::GetWindowRect(LPRECT lpRect) const {
+    ::GetWindowRect(m_hWnd, lpRect);
+}

@@ -40,7 +40,9 @@ DebugEvents::DebugEvents() {
     handler_ = ::AddVectoredExceptionHandler(1, onException);
 }
 
-DebugEvents::~DebugEvents() { ::RemoveVectoredExceptionHandler(handler_); }
+DebugEvents::~DebugEvents() {
+    ::RemoveVectoredExceptionHandler(handler_);
+}
 
 std::vector<std::string> DebugEvents::traces() const {
     std::lock_guard guard(eventsLock);

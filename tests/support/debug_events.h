@@ -7,8 +7,8 @@
 
 namespace orv::test {
 
-// While one exists, OutputDebugString lines of every thread are kept, and failed assertions are counted and passed
-// over, as a developer does who presses "ignore".
+// While one exists, OutputDebugString lines of every thread are kept, and failed assertions are counted and
+// passed over, as a developer does who presses "ignore".
 class DebugEvents {
 public:
     DebugEvents();

@@ -6,8 +6,8 @@
 namespace orv::test {
 
 int liveGdiHandles() {
-    // The process environment block points to the shared table; 64-bit layout: 24-byte entries, the type word at
-    // offset 14, whose low bits are not 0 while the entry is in use.
+    // The process environment block points to the shared table; 64-bit layout: 24-byte entries, the type word
+    // at offset 14, whose low bits are not 0 while the entry is in use.
     constexpr size_t tableOffset = 0xF8, entrySize = 24, typeOffset = 14, entries = 65536;
     auto* block = reinterpret_cast<const BYTE*>(NtCurrentTeb()->ProcessEnvironmentBlock);
     auto* table = *reinterpret_cast<const BYTE* const*>(block + tableOffset);

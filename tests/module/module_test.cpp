@@ -1,0 +1,122 @@
+// The library and an extension DLL as a host meets them at run time: loaded, found along the chain, unloaded.
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include "support/debug_events.h"
+
+#include <memory>
+
+namespace {
+
+class RecordingApp : public CWinApp {
+public:
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) override {
+        prompt = lpszPrompt;
+        type = nType;
+        help = nIDPrompt;
+        return IDYES;
+    }
+    CString prompt;
+    UINT type = 0, help = 0;
+} recordingApp;
+
+TEST(Module, TracesItsLoadAndItsUnload) {
+    orv::test::DebugEvents events;
+    HMODULE library = ::LoadLibraryA("ORVFC.dll");
+    ASSERT_TRUE(library);
+    EXPECT_EQ("ORVFC.DLL Initializing!\n", events.text());
+    ::FreeLibrary(library);
+    EXPECT_EQ("ORVFC.DLL Initializing!\nORVFC.DLL Terminating!\n", events.text());
+}
+
+TEST(Module, RegistersTheMessagesUnderTheirOwnNames) {
+    HMODULE library = ::LoadLibraryA("ORVFC.dll");
+    ASSERT_TRUE(library);
+    for (const char* name :
+         {"WM_FONT_NAME_CMB_SELCHANGE", "WM_FONT_SIZE_CMB_SELCHANGE", "WM_GFX_OUTBAR_LBUTTON_DOWN",
+          "WM_LINE_COLOR_CMB_SELCHANGE", "WM_LINE_STYLE_CMB_SELCHANGE", "WM_LINE_WIDTH_CMB_SELCHANGE",
+          "WM_BRUSH_FIGURE_CMB_SELCHANGE", "WM_FILL_TYPE_CMB_SELCHANGE"}) {
+        auto message = reinterpret_cast<const UINT*>(::GetProcAddress(library, name));
+        ASSERT_TRUE(message) << name;
+        EXPECT_EQ(::RegisterWindowMessageA(name), *message) << name;
+        EXPECT_GE(*message, 0xC000u) << name;
+    }
+    ::FreeLibrary(library);
+}
+
+TEST(Module, ResourcesAndClassesAreFoundAlongTheChainWhileItIsLoaded) {
+    CString text;
+    EXPECT_FALSE(text.LoadString(200));
+    EXPECT_EQ(NULL, CRuntimeClass::FromName("CGuest"));
+    {
+        HMODULE guest = ::LoadLibraryA("guest.dll");
+        ASSERT_TRUE(guest);
+        ASSERT_TRUE(text.LoadString(200));
+        EXPECT_STREQ("客人", text);
+        EXPECT_EQ(guest, AfxFindStringResourceHandle(200));
+        // The program's own resources come first.
+        ASSERT_TRUE(text.LoadString(100));
+        EXPECT_STREQ("线型目录", text);
+        CRuntimeClass* guestClass = CRuntimeClass::FromName("CGuest");
+        ASSERT_TRUE(guestClass);
+        std::unique_ptr<CObject> object(guestClass->CreateObject());
+        ASSERT_TRUE(object);
+        EXPECT_STREQ("CGuest", object->GetRuntimeClass()->m_lpszClassName);
+        object.reset();
+        ::FreeLibrary(guest);
+    }
+    EXPECT_FALSE(text.LoadString(200));
+    EXPECT_EQ(NULL, CRuntimeClass::FromName("CGuest"));
+
+    HMODULE library = ::LoadLibraryA("ORVFC.dll");
+    EXPECT_EQ(library, AfxFindResourceHandle(MAKEINTRESOURCEA(1), RT_VERSION));
+    EXPECT_TRUE(CRuntimeClass::FromName("COrvDrawManage"));
+    ::FreeLibrary(library);
+    EXPECT_EQ(::GetModuleHandleA(NULL), AfxFindResourceHandle(MAKEINTRESOURCEA(1), RT_VERSION));
+}
+
+TEST(Module, LoadStringCutsBetweenCharacters) {
+    const struct {
+        UINT room;
+        const char* expected;
+    } rows[] = {{0, "#"},  {1, ""},       {2, ""},         {3, "线"},
+                {4, "线"}, {8, "线型目"}, {9, "线型目录"}, {20, "线型目录"}};
+    for (const auto& row : rows) {
+        char buffer[24] = "#";
+        const int length = AfxLoadString(100, buffer, row.room);
+        EXPECT_STREQ(row.expected, buffer) << row.room;
+        EXPECT_EQ(row.room ? static_cast<int>(strlen(row.expected)) : 0, length) << row.room;
+    }
+}
+
+TEST(Module, MessageBoxesGoThroughTheApplication) {
+    EXPECT_EQ(AfxGetApp(), &recordingApp);
+    EXPECT_STREQ("module_test", AfxGetAppName());
+    EXPECT_EQ(IDYES, AfxMessageBox("问题", MB_YESNO, 7));
+    EXPECT_STREQ("问题", recordingApp.prompt);
+    EXPECT_EQ(static_cast<UINT>(MB_YESNO), recordingApp.type);
+    EXPECT_EQ(7u, recordingApp.help);
+    AfxMessageBox(100u);
+    EXPECT_STREQ("线型目录", recordingApp.prompt);
+    EXPECT_EQ(100u, recordingApp.help);
+}
+
+TEST(Module, EveryDllCarriesItsVersion) {
+    for (const char* name : {"ORVFC.dll", "orvafx.dll", "orvmathfunc.dll"}) {
+        DWORD ignored, size = ::GetFileVersionInfoSizeA(name, &ignored);
+        ASSERT_GT(size, 0u) << name;
+        std::unique_ptr<BYTE[]> block(new BYTE[size]);
+        ASSERT_TRUE(::GetFileVersionInfoA(name, 0, size, block.get())) << name;
+        void* value = NULL;
+        UINT length = 0;
+        ASSERT_TRUE(
+            ::VerQueryValueA(block.get(), "\\StringFileInfo\\080403a8\\OriginalFilename", &value, &length));
+        EXPECT_STRCASEEQ(name, static_cast<char*>(value));
+        ASSERT_TRUE(::VerQueryValueA(block.get(), "\\", &value, &length)) << name;
+        EXPECT_NE(0u, static_cast<VS_FIXEDFILEINFO*>(value)->dwFileVersionMS) << name;
+    }
+}
+
+} // namespace
