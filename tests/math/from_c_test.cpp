@@ -1,0 +1,7 @@
+#include <gtest/gtest.h>
+
+extern "C" int callAllFromC(void);
+
+TEST(FromC, EveryFunctionLinksAndAnswers) {
+    EXPECT_EQ(callAllFromC(), 22);
+}

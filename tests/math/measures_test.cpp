@@ -1,0 +1,175 @@
+#include <orvmathfunc/orvmathfunc.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double inf = std::numeric_limits<double>::infinity();
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double pi = 3.14159265358979323846;
+
+struct Distances {
+    double px, py, x1, y1, x2, y2, toSegment, toLine;
+};
+
+TEST(Measures, DistancesFromAPoint) {
+    const double far = 4e8; // far from the origin the answers are those near it
+    const Distances rows[] = {
+        {2, 3, 0, 0, 4, 0, 3, 3},                                    // above the middle
+        {-3, 4, 0, 0, 4, 0, 5, 4},                                   // before the start
+        {7, -4, 0, 0, 4, 0, 5, 4},                                   // past the end
+        {2, 0, 0, 0, 4, 0, 0, 0},                                    // on the segment
+        {9, 0, 0, 0, 4, 0, 5, 0},                                    // on the line only
+        {3, 4, 0, 0, 0, 0, 5, 5},                                    // no length
+        {0, 5, 0, 0, 3, 4, 3, 3},                                    // slanting
+        {far + 2, far + 3, far, far, far + 4, far, 3, 3},            // far away
+        {far + 0, far + 5, far, far, far + 3, far + 4, 3, 3},        // far away, slanting
+        {1e-9 * 2, 1e-9 * 3, 0, 0, 1e-9 * 4, 0, 1e-9 * 3, 1e-9 * 3}, // small
+        {2e100, 3e100, 0, 0, 4e100, 0, 3e100, 3e100},                // large
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(testing::Message()
+                     << r.px << "," << r.py << " " << r.x1 << "," << r.y1 << " " << r.x2 << "," << r.y2);
+        EXPECT_DOUBLE_EQ(GetDistFromPointToLineSegment(r.px, r.py, r.x1, r.y1, r.x2, r.y2), r.toSegment);
+        EXPECT_DOUBLE_EQ(GetDistFromPointToLineSegment(r.px, r.py, r.x2, r.y2, r.x1, r.y1), r.toSegment);
+        EXPECT_DOUBLE_EQ(GetDistFromPointToLinePer(r.px, r.py, r.x1, r.y1, r.x2, r.y2), r.toLine);
+    }
+    EXPECT_TRUE(std::isnan(GetDistance(0, 0, nan, 0)));
+    EXPECT_TRUE(std::isnan(GetDistFromPointToLineSegment(0, nan, 0, 0, 1, 0)));
+    EXPECT_TRUE(std::isnan(GetDistFromPointToLinePer(0, nan, 0, 0, 1, 0)));
+    EXPECT_EQ(GetDistance(0, 0, -inf, 0), inf);
+}
+
+TEST(Measures, PerpendicularFoot) {
+    double x = -1, y = -1;
+    GetPerpendicularPoint(0, 5, 0, 0, 3, 4, &x, &y);
+    EXPECT_DOUBLE_EQ(x, 2.4);
+    EXPECT_DOUBLE_EQ(y, 3.2);
+    GetPerpendicularPoint(9, 3, 0, 0, 4, 0, &x, &y); // outside the two points
+    EXPECT_EQ(x, 9);
+    EXPECT_EQ(y, 0);
+    GetPerpendicularPoint(9, 3, 7, 8, 7, 8, &x, &y); // equal points
+    EXPECT_EQ(x, 7);
+    EXPECT_EQ(y, 8);
+    x = 9, y = 3;
+    GetPerpendicularPoint(x, y, 0, 0, 0, 4, &x, &y); // over its own inputs
+    EXPECT_EQ(x, 0);
+    EXPECT_EQ(y, 3);
+}
+
+TEST(Measures, MiddleNeverOverflows) {
+    double x = -1, y = -1;
+    GetLineMid(1e308, -4, 1.5e308, 8, &x, &y);
+    EXPECT_DOUBLE_EQ(x, 1.25e308);
+    EXPECT_EQ(y, 2);
+    GetLineMid(1, 2, 3, 4, nullptr, &y);
+    EXPECT_EQ(y, 3);
+}
+
+struct CrossStroke {
+    double x1, y1, x2, y2, d1, d2, xa, ya, xb, yb;
+};
+
+TEST(Measures, CrossStrokesStandOnTheMiddle) {
+    const CrossStroke rows[] = {
+        {0, 0, 10, 0, 3, 4, 5, -3, 5, 4},                // rightwards: the first one is above on the screen
+        {10, 0, 0, 0, 3, 4, 5, 3, 5, -4},                // leftwards: below
+        {0, 0, 0, 10, 3, 4, 3, 5, -4, 5},                // downwards: to the right
+        {0, 0, 6, 8, 5, 10, 3 + 4, 4 - 3, 3 - 8, 4 + 6}, // slanting
+        {0, 0, 10, 0, -3, 0, 5, 3, 5, 0},                // negative changes the side
+        {7, 8, 7, 8, 3, 4, 7, 8, 7, 8},                  // no length
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(testing::Message() << r.x2 << "," << r.y2 << " " << r.d1 << " " << r.d2);
+        double xa = -1, ya = -1, xb = -1, yb = -1;
+        GetPerHalveLineFromLineDist(r.x1, r.y1, r.x2, r.y2, r.d1, r.d2, &xa, &ya, &xb, &yb);
+        EXPECT_DOUBLE_EQ(xa, r.xa);
+        EXPECT_DOUBLE_EQ(ya, r.ya);
+        EXPECT_DOUBLE_EQ(xb, r.xb);
+        EXPECT_DOUBLE_EQ(yb, r.yb);
+    }
+    GetPerHalveLineFromLineDist(0, 0, 1, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+}
+
+struct Between {
+    double value, bound1, bound2, tolerance;
+    bool inside;
+};
+
+TEST(Measures, Between) {
+    const Between rows[] = {
+        {5, 0, 10, 0, true},   {5, 10, 0, 0, true},  {0, 0, 10, 0, true},   {10, 0, 10, 0, true},
+        {11, 0, 10, 1, true},  {-1, 10, 0, 1, true}, {-1, 0, 10, 0, false}, {12, 0, 10, 1, false},
+        {1, 0, 10, -2, false}, {2, 0, 10, -2, true}, {5, 5, 5, 0, true},    {5, 5, 5, -1, false},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(testing::Message()
+                     << r.value << " in " << r.bound1 << ".." << r.bound2 << " +" << r.tolerance);
+        EXPECT_EQ(BetweenDistance(r.value, r.bound1, r.bound2, r.tolerance) != 0, r.inside);
+        EXPECT_EQ(BetweenDistanceInt(int(r.value), int(r.bound1), int(r.bound2), int(r.tolerance)) != 0,
+                  r.inside);
+    }
+    EXPECT_TRUE(BetweenDistance(5, -inf, inf, 0));
+    for (int place = 0; place < 4; ++place) {
+        const double v[] = {place == 0 ? nan : 5, place == 1 ? nan : 0, place == 2 ? nan : 10,
+                            place == 3 ? nan : 0};
+        EXPECT_FALSE(BetweenDistance(v[0], v[1], v[2], v[3])) << place;
+    }
+    EXPECT_TRUE(
+        BetweenDistanceInt(INT_MIN, INT_MAX, INT_MIN, INT_MAX)); // no wrap-around in the widened bounds
+    EXPECT_FALSE(BetweenDistanceInt(INT_MIN, INT_MAX, INT_MAX, 1));
+}
+
+struct Nearest {
+    double value;
+    int power;
+    double result;
+};
+
+TEST(Measures, NearestValue) {
+    const Nearest rows[] = {
+        {1.234567, -5, 1.23457},
+        {-1.234567, -5, -1.23457},
+        {1.234567, 0, 1},
+        {0.1 + 0.2, -5, 0.3},
+        {14, 1, 10},
+        {15, 1, 20},
+        {-15, 1, -20},
+        {-25, 1, -30},
+        {2.5, 0, 3},
+        {-2.5, 0, -3},
+        {0.125, -2, 0.13},
+        {0.49999999999999994, 0, 0},
+        {123456789, 3, 123457000},
+        {4, 1, 0},
+        {1e300, -5, 1e300},
+        {1234.5, -308, 1234.5},
+        {1234.5, -309, 1234.5},
+        {1234.5, INT_MIN, 1234.5},
+        {1e308, 309, 0},
+        {1e308, INT_MAX, 0},
+        {6e307, 308, 1e308},
+        {1.7e308, 308, 1.7e308}, // twice 1e308 is beyond the range
+        {4503599627370497.0, 0, 4503599627370497.0},
+        {inf, -5, inf},
+        {-inf, 400, -inf},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(GetNearestValue(r.value, r.power), r.result) << r.value << " to 10^" << r.power;
+    EXPECT_TRUE(std::isnan(GetNearestValue(nan, -5)));
+    EXPECT_TRUE(std::isnan(GetNearestValue(nan, 400)));
+    EXPECT_FALSE(std::signbit(GetNearestValue(-0.3, 0)));
+    EXPECT_FALSE(std::signbit(GetNearestValue(-0.0, -5)));
+}
+
+TEST(Measures, RadiansToDegrees) {
+    EXPECT_EQ(ConvertFromRadianToAngle(pi), 180);
+    EXPECT_EQ(ConvertFromRadianToAngle(-pi / 2), -90);
+    EXPECT_EQ(ConvertFromRadianToAngle(4 * pi), 720); // not wrapped
+}
+
+} // namespace
