@@ -70,16 +70,15 @@ double powerOfTen(int power) {
 double ORVMATH_CALL GetNearestValue(double value, int power) {
     constexpr int largestPower = 308;
     constexpr double noFraction = 4503599627370496.0; // 2^52: from here on every double is whole
-    constexpr double positiveZero = 0.0;
     if (power < -largestPower)
-        return value + positiveZero;
+        return value;
     if (power > largestPower)
         return std::isfinite(value) ? 0 : value;
     const double scale = powerOfTen(power < 0 ? -power : power);
     const double scaled = power < 0 ? value * scale : value / scale;
     if (!(std::fabs(scaled) < noFraction))
-        return value + positiveZero;
+        return value;
     const double whole = roundHalfAway(scaled);
     const double nearest = power < 0 ? whole / scale : whole * scale;
-    return std::isinf(nearest) ? value : nearest + positiveZero;
+    return std::isinf(nearest) ? value : nearest;
 }

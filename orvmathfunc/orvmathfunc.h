@@ -102,8 +102,7 @@ ORVMATH_API int ORVMATH_CALL BetweenDistanceInt(int value, int bound1, int bound
  * The multiple of 10 to the power given that is nearest to value: power -2 keeps two decimals, power 3 rounds
  * to thousands. Halves go away from zero; what is a half is judged on value / 10^power as computed. A value
  * that has no digits below that place, is infinite or not-a-number comes back unchanged, as does one whose
- * nearest multiple is beyond the range of double, and every value for powers below -308. Never gives a
- * negative zero.
+ * nearest multiple is beyond the range of double, and every value for powers below -308.
  */
 ORVMATH_API double ORVMATH_CALL GetNearestValue(double value, int power);
 

@@ -186,7 +186,11 @@ TEST(Crossings, TouchingABoxSurvivesRounding) {
     EXPECT_EQ(count({third + 0.1 - 1e-16, third - 0.1}, {third - 0.1 - 1e-16, third + 0.1}),
               1); // over the corner
     EXPECT_EQ(out[0].x, third);
-    EXPECT_EQ(count({third + 0.1 - 1e-9, third - 0.1}, {third - 0.1 - 1e-9, third + 0.1}), 2); // a real cut
+    EXPECT_EQ(count({third - 1, third + 0.001 - 4e-16}, {third + 1, third - 0.001 - 4e-16}), 1); // at a slant
+    EXPECT_EQ(count({third + 0.1 - 1e-9, third - 0.1}, {third - 0.1 - 1e-9, third + 0.1}), 2);   // a real cut
+    const double under = std::nextafter(third, 0);
+    for (const Point p : {Point{1e-16, 0.1}, {under, 0.1}, {0.1, 1e-16}, {0.1, under}})
+        EXPECT_EQ(count(p, {0.2, 0.2}), 1) << "starts a rounding error inside, at " << p.x << "," << p.y;
 }
 
 struct ArcRow {
@@ -236,6 +240,30 @@ TEST(Crossings, SegmentAndArc) {
     EXPECT_EQ(GetCrossPointBetweenLineAndArcInBounds(-9, 0, 9, 0, 0, 0, 5, 0, 1, nullptr, nullptr, nullptr,
                                                      nullptr),
               1);
+}
+
+TEST(Crossings, TouchingAnArcSurvivesRounding) {
+    const double third = 1.0 / 3;
+    Point out[2] = {{-77, -77}, {-77, -77}};
+    const auto count = [&](Point a, Point b, double start, double end) {
+        return GetCrossPointBetweenLineAndArcInBounds(a.x, a.y, b.x, b.y, 3, 4, third, start, end, &out[0].x,
+                                                      &out[0].y, &out[1].x, &out[1].y);
+    };
+    // A touching line, a rounding error inside or outside the circle; then a real cut.
+    EXPECT_EQ(count({2, std::nextafter(4 - third, 0)}, {5, std::nextafter(4 - third, 0)}, 0, 0), 1);
+    EXPECT_EQ(count({2, std::nextafter(4 - third, 9)}, {5, std::nextafter(4 - third, 9)}, 0, 0), 1);
+    EXPECT_EQ(count({2, 4 - third + 1e-9}, {5, 4 - third + 1e-9}, 0, 0), 2);
+    for (int i = 0; i < 360; ++i) {
+        const double a = i * pi / 180;
+        const Point end{3 + third * std::cos(a), 4 - third * std::sin(a)}; // of both the spoke and the arc
+        const Point past{3 + std::cos(a), 4 - std::sin(a)};
+        for (const auto& spoke :
+             {std::pair{Point{3, 4}, end}, std::pair{end, past}, std::pair{Point{3, 4}, past}}) {
+            EXPECT_EQ(count(spoke.first, spoke.second, a, a + 1), 1) << i;
+            EXPECT_EQ(count(spoke.first, spoke.second, a - 1, a), 1) << i;
+        }
+        EXPECT_EQ(count({3, 4}, past, a + 1e-9, a - 1e-9), 0) << i;
+    }
 }
 
 } // namespace
