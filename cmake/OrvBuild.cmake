@@ -53,6 +53,8 @@ if(WIN32 AND MINGW)
 endif()
 
 if(ORVFC_SANITIZE AND NOT WIN32)
+  # Libraries report what they cover to the fuzzer; the programs bring its main.
+  add_compile_options($<$<BOOL:${ORVFC_FUZZ}>:-fsanitize=fuzzer-no-link>)
   target_compile_options(orv_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                -fno-omit-frame-pointer)
   target_link_options(orv_options INTERFACE -fsanitize=address,undefined)
