@@ -6,8 +6,7 @@ namespace orv {
 
 // The one way from a coordinate to a whole unit: truncation toward zero. Values beyond the range of int
 // (infinities included) stop at its ends, not-a-number gives 0, so that no input is undefined behaviour.
-constexpr int truncToInt(double value)
-{
+constexpr int truncToInt(double value) {
     if (value >= INT_MAX)
         return INT_MAX;
     if (value <= INT_MIN)
