@@ -8,8 +8,8 @@ namespace {
 constexpr int leftEdge = 48;
 constexpr int rightEdge = 1232;
 constexpr int bandTop = 168;
-constexpr int bandHeight = 112;
-constexpr int lineStep = 32; // from one line of a cell to the next
+constexpr int bandHeight = 120;
+constexpr int lineStep = 31; // from one line of a cell to the next
 constexpr int linesInCell = 3;
 
 constexpr COLORREF inkColor = RGB(32, 32, 36);
@@ -31,15 +31,15 @@ constexpr Stroke strokes[linesInCell] = {
 
 // The shapes of a row. number: which of the lines in the cell.
 void tracePolyline(CDC& dc, CPoint cell, int number) {
-    CPoint points[] = {{0, 22}, {62, 2}, {128, 26}, {204, 0}, {286, 18}};
+    CPoint points[] = {{0, 20}, {44, 20}, {104, 0}, {168, 24}, {232, 2}, {286, 14}};
     for (CPoint& point : points) {
         point += cell + CPoint(0, number * lineStep);
     }
-    dc.Polyline(points, 5);
+    dc.Polyline(points, 6);
 }
 
 void traceCurve(CDC& dc, CPoint cell, int number) {
-    CPoint points[] = {{0, 16}, {60, -24}, {90, -24}, {143, 11}, {196, 46}, {226, 46}, {286, 6}};
+    CPoint points[] = {{0, 14}, {60, -14}, {90, -14}, {143, 12}, {196, 38}, {226, 38}, {286, 8}};
     for (CPoint& point : points) {
         point += cell + CPoint(0, number * lineStep);
     }
@@ -47,11 +47,11 @@ void traceCurve(CDC& dc, CPoint cell, int number) {
 }
 
 void traceClosed(CDC& dc, CPoint cell, int number) {
-    constexpr int size = 76;
-    constexpr int step = 90;
-    const CPoint corner = cell + CPoint(number * step, 4);
-    const CPoint triangle[] = {{0, 70}, {38, 2}, {76, 70}};
-    const CPoint hexagon[] = {{0, 38}, {19, 5}, {57, 5}, {76, 38}, {57, 71}, {19, 71}};
+    constexpr int size = 70;
+    constexpr int step = 96;
+    const CPoint corner = cell + CPoint(number * step, 8);
+    const CPoint triangle[] = {{0, 68}, {35, 4}, {70, 68}};
+    const CPoint hexagon[] = {{0, 35}, {17, 5}, {53, 5}, {70, 35}, {53, 65}, {17, 65}};
     if (number == 2) {
         dc.Ellipse(corner.x, corner.y, corner.x + size, corner.y + size);
         return;
@@ -72,10 +72,12 @@ struct Cell {
 };
 
 constexpr Cell cells[] = {
-    {336, "折线  polyline", tracePolyline},
-    {656, "曲线  curve", traceCurve},
-    {976, "闭合图形  closed figure", traceClosed},
+    {328, "折线  polyline", tracePolyline},
+    {644, "曲线  curve", traceCurve},
+    {960, "闭合图形  closed figure", traceClosed},
 };
+
+using Notes = const char* [3]; // the lines under a name
 
 class LineSheet {
 public:
@@ -90,15 +92,15 @@ public:
 
 private:
     void headings();
-    void band(int type, const char* caller, const char* pattern);
+    void band(int type, const Notes& notes);
     void strokeCells(int type);
-    void singleTent();
+    void singleTent(int type);
     void magnify(CPoint from, CPoint to);
-    void emptyBand();
+    void emptyBand(int type);
 
     void createFont(CFont& font, int height);
     void text(CFont& font, COLORREF color, int x, int y, const CString& text);
-    CPoint cellOrigin(const Cell& cell) const { return {cell.left, m_bandTop + 18}; }
+    CPoint cellOrigin(const Cell& cell) const { return {cell.left, m_bandTop + 16}; }
     template <class Trace>
     void path(Trace trace);
 
@@ -138,7 +140,7 @@ void LineSheet::headings() {
     int x = cells[2].left;
     for (const Stroke& stroke : strokes) {
         text(m_textFont, stroke.color, x, 86, stroke.legend);
-        x += 90;
+        x += 96;
     }
     for (const Cell& cell : cells) {
         text(m_textFont, noteColor, cell.left, 136, cell.heading);
@@ -147,14 +149,17 @@ void LineSheet::headings() {
 }
 
 // A new band with its rule and label.
-void LineSheet::band(int type, const char* caller, const char* pattern) {
+void LineSheet::band(int type, const Notes& notes) {
     m_bandTop += bandHeight;
     m_dc.FillSolidRect(leftEdge, m_bandTop, rightEdge - leftEdge, 1, ruleColor);
     CString name;
     name.Format("%s  %d", m_names.GetLineName(type), type);
-    text(m_nameFont, inkColor, leftEdge, m_bandTop + 16, name);
-    text(m_textFont, noteColor, leftEdge, m_bandTop + 54, caller);
-    text(m_textFont, noteColor, leftEdge, m_bandTop + 78, pattern);
+    text(m_nameFont, inkColor, leftEdge, m_bandTop + 14, name);
+    int y = m_bandTop + 50;
+    for (const char* note : notes) {
+        text(m_textFont, noteColor, leftEdge, y, note != NULL ? note : "");
+        y += 22;
+    }
 }
 
 void LineSheet::strokeCells(int type) {
@@ -169,7 +174,7 @@ void LineSheet::strokeCells(int type) {
 
 // Type 101 through the manager: the zig-zag ends the walk with its first piece. The path asked for stands in
 // grey.
-void LineSheet::singleTent() {
+void LineSheet::singleTent(int type) {
     COrvMainDrawManage manage{CString()};
     int result = 0;
     CPen guide(PS_SOLID, 1, ruleColor);
@@ -178,16 +183,16 @@ void LineSheet::singleTent() {
         const auto trace = [&] { cell.trace(m_dc, cellOrigin(cell), 1); };
         trace();
         path(trace);
-        result = manage.Draw(&m_dc, 101, 1, strokes[2].color);
+        result = manage.Draw(&m_dc, type, 1, strokes[2].color);
     }
     m_dc.SelectObject(previous);
     m_dc.AbortPath();
-    magnify(cellOrigin(cells[0]) + CPoint(-4, lineStep + 12), {cells[2].left, m_bandTop + 10});
+    magnify(cellOrigin(cells[0]) + CPoint(-4, lineStep + 13), {cells[2].left, m_bandTop + 13});
     CString note;
     note.Format("Draw returned %d", result);
-    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 30, "the left end");
-    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 54, "8 times as large");
-    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 78, note);
+    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 28, "the left end");
+    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 52, "8 times as large");
+    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 76, note);
 }
 
 // A small square of the sheet, eight times as large, in a frame.
@@ -202,10 +207,10 @@ void LineSheet::magnify(CPoint from, CPoint to) {
 }
 
 // Type 5 is no line: the path is asked for and nothing comes.
-void LineSheet::emptyBand() {
+void LineSheet::emptyBand(int type) {
     COrvMainDrawManage manage{CString()};
     path([&] { tracePolyline(m_dc, cellOrigin(cells[0]), 1); });
-    const int result = manage.Draw(&m_dc, 5, strokes[1].width, strokes[1].color);
+    const int result = manage.Draw(&m_dc, type, strokes[1].width, strokes[1].color);
     m_dc.AbortPath();
     CString note;
     note.Format("This row is empty on purpose: type 5 is no line. Draw was called and returned %d.", result);
@@ -215,25 +220,25 @@ void LineSheet::emptyBand() {
 void LineSheet::draw() {
     struct {
         int type;
-        const char* caller;
-        const char* pattern;
+        Notes notes;
+        void (LineSheet::*fill)(int type);
     } const rows[] = {
-        {1, "COrvMainDrawManage::Draw", "18 on, 5 off"},
-        {2, "COrvMainDrawManage::Draw", "5 on, 5 off"},
-        {3, "COrvMainDrawManage::Draw", "17 on, 5 off, 5 on, 5 off"},
-        {4, "COrvMainDrawManage::Draw", "17 on, 6 off, twice 5 on, 6 off"},
-        {0, "COrvDrawManage::Draw", "the system's own pen"},
-        {101, "DrawSpeciaPath", "gauge 6, 10, 16; 20 open, 20 filled"},
+        {0, {"COrvDrawManage::Draw", "the system's own pen"}, &LineSheet::strokeCells},
+        {1, {"COrvMainDrawManage::Draw", "18 on, 5 off"}, &LineSheet::strokeCells},
+        {2, {"COrvMainDrawManage::Draw", "5 on, 5 off"}, &LineSheet::strokeCells},
+        {3, {"COrvMainDrawManage::Draw", "17 on, 5 off, 5 on, 5 off"}, &LineSheet::strokeCells},
+        {4, {"COrvMainDrawManage::Draw", "17 on, 6 off, twice 5 on, 6 off"}, &LineSheet::strokeCells},
+        {5, {"COrvMainDrawManage::Draw", "no line"}, &LineSheet::emptyBand},
+        {101,
+         {"DrawSpeciaPath", "gauge 6, 10, 16; 20 open, 20 filled", "rails can cross heading due right"},
+         &LineSheet::strokeCells},
+        {101, {"COrvMainDrawManage::Draw", "a single tent: the walk ends there"}, &LineSheet::singleTent},
     };
     headings();
     for (const auto& row : rows) {
-        band(row.type, row.caller, row.pattern);
-        strokeCells(row.type);
+        band(row.type, row.notes);
+        (this->*row.fill)(row.type);
     }
-    band(101, "COrvMainDrawManage::Draw", "a single tent: the walk ends there");
-    singleTent();
-    band(5, "COrvMainDrawManage::Draw", "no line");
-    emptyBand();
 }
 
 } // namespace

@@ -4,7 +4,7 @@ namespace gallery {
 
 std::span<const Sheet> sheets() {
     static const Sheet all[] = {
-        {"lines", 1280, 1120, drawLineSheet},
+        {"lines", 1280, 1160, drawLineSheet},
     };
     return all;
 }
