@@ -76,6 +76,8 @@ public:
     CArchive& operator<<(char ch) { return Put(&ch, sizeof(ch)); }
     CArchive& operator<<(signed char ch) { return Put(&ch, sizeof(ch)); }
     CArchive& operator<<(bool b) { return *this << (BYTE)(b ? 1 : 0); }
+    // A text pointer would be stored as a bool; what is meant is a CString, or WriteString.
+    CArchive& operator<<(LPCSTR) = delete;
     CArchive& operator>>(BYTE& by) { return Get(&by, sizeof(by)); }
     CArchive& operator>>(WORD& w) { return Get(&w, sizeof(w)); }
     CArchive& operator>>(LONG& l) { return Get(&l, sizeof(l)); }
@@ -87,7 +89,12 @@ public:
     CArchive& operator>>(short& w) { return Get(&w, sizeof(w)); }
     CArchive& operator>>(char& ch) { return Get(&ch, sizeof(ch)); }
     CArchive& operator>>(signed char& ch) { return Get(&ch, sizeof(ch)); }
-    CArchive& operator>>(bool& b);
+    CArchive& operator>>(bool& b) {
+        BYTE by;
+        *this >> by;
+        b = by != 0;
+        return *this;
+    }
 #if defined(_WIN32)
     // Off Windows LONG and DWORD are these, and wide characters have another size.
     CArchive& operator<<(int i) {
@@ -128,7 +135,7 @@ protected:
     BOOL m_nMode;
     BOOL m_bUserBuf;
     int m_nBufSize;
-    CFile* m_pFile;
+    CFile* m_pFile; // NULL once closed
     BYTE* m_lpBufCur;
     BYTE* m_lpBufMax;
     BYTE* m_lpBufStart;
@@ -141,10 +148,13 @@ private:
     void RequireStoring() const;
     void RequireLoading() const;
     void DrainBuffer();
-    UINT RefillBuffer(UINT nWanted);
-    UINT ReadPast(BYTE* lpBuf, UINT nMax);
+    void NewBuffer();
+    BOOL RefillBuffer();
     CObject* ReadNewObject(CRuntimeClass* pClass, UINT nSchema);
+    CObject* KnownObject(DWORD nIndex, const CRuntimeClass* pClass);
+    void WriteTag(DWORD nIndex, BOOL bClass);
     OrvArchiveMap& Map();
+    [[noreturn]] void Fail(int cause) const;
 
     OrvArchiveMap* m_pMap; // objects and classes by number
     UINT m_nDepth;

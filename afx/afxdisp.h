@@ -27,7 +27,7 @@ public:
     double GetTotalMinutes() const { return Total(24 * 60); }
     double GetTotalSeconds() const { return Total(24 * 60 * 60); }
     // The parts: whole days, then what is left of them, all with the sign of the span.
-    LONG GetDays() const { return (LONG)m_span; }
+    LONG GetDays() const { return (LONG)(Seconds() / 86400); }
     LONG GetHours() const { return (LONG)(Seconds() / 3600 % 24); }
     LONG GetMinutes() const { return (LONG)(Seconds() / 60 % 60); }
     LONG GetSeconds() const { return (LONG)(Seconds() % 60); }
@@ -86,12 +86,24 @@ public:
     }
     bool GetAsSystemTime(SYSTEMTIME& sysTime) const; // to the nearest second
 
-    int GetYear() const;
-    int GetMonth() const; // 1 to 12
-    int GetDay() const;
-    int GetHour() const;
-    int GetMinute() const;
-    int GetSecond() const;
+    int GetYear() const {
+        return Part(&SYSTEMTIME::wYear);
+    }
+    int GetMonth() const {
+        return Part(&SYSTEMTIME::wMonth);
+    } // 1 to 12
+    int GetDay() const {
+        return Part(&SYSTEMTIME::wDay);
+    }
+    int GetHour() const {
+        return Part(&SYSTEMTIME::wHour);
+    }
+    int GetMinute() const {
+        return Part(&SYSTEMTIME::wMinute);
+    }
+    int GetSecond() const {
+        return Part(&SYSTEMTIME::wSecond);
+    }
     int GetDayOfWeek() const; // 1 Sunday to 7 Saturday
     int GetDayOfYear() const; // from 1
 
@@ -104,7 +116,8 @@ public:
         return SetDateTime(1899, 12, 30, nHour, nMin, nSec);
     }
 
-    // The formats of strftime; empty when null, the word for "invalid" when invalid.
+    // The formats of strftime with English names, for all years; %#d and the like without leading zeros.
+    // Empty when null; a text that says so when invalid.
     CString Format(LPCTSTR lpszFormat) const;
 #if defined(_WIN32)
     // As the locale writes dates: VAR_DATEVALUEONLY, VAR_TIMEVALUEONLY, LOCALE_NOUSEROVERRIDE.
@@ -151,6 +164,7 @@ public:
     DateTimeStatus m_status;
 
 private:
+    int Part(WORD SYSTEMTIME::*pPart) const;
     // Days on a straight line of time, where -1.25 is -0.75.
     double Days() const;
     void CheckRange();

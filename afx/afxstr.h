@@ -68,8 +68,8 @@ public:
     void Append(const CStringA& strSrc);
     void AppendChar(char ch);
 
-    // Byte order, up to the first zero byte of either. CompareNoCase folds case without looking into two-byte
-    // characters. The CompareNoCase and Collate forms of a locale are not here.
+    // Byte order, up to the first zero byte of either. CompareNoCase folds the letters A to Z and looks into
+    // no two-byte character; so do MakeUpper and MakeLower.
     int Compare(LPCSTR psz) const;
     int CompareNoCase(LPCSTR psz) const;
 
@@ -142,7 +142,7 @@ public:
     void AppendFormatArgs(LPCSTR pszFormat, const OrvFormatArg* pArgs, size_t nArgs);
 
 #if defined(_WIN32)
-    // Text of a string resource; FALSE leaves the string empty. Without a module: along the module chain.
+    // Text of a string resource; FALSE leaves the string as it was. Without a module: along the module chain.
     BOOL LoadString(UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
     template <class... ARGS>
@@ -185,8 +185,9 @@ ORVAFX_API CString operator+(LPCSTR psz, const CString& str);
 ORVAFX_API CString operator+(const CString& str, char ch);
 ORVAFX_API CString operator+(char ch, const CString& str);
 
+// Comparisons are those of Compare.
 inline bool operator==(const CString& a, const CString& b) {
-    return a.GetLength() == b.GetLength() && memcmp(a.GetString(), b.GetString(), a.GetLength()) == 0;
+    return a.Compare(b) == 0;
 }
 inline bool operator==(const CString& a, LPCSTR b) {
     return a.Compare(b) == 0;
@@ -239,8 +240,3 @@ inline bool operator>=(const CString& a, LPCSTR b) {
 inline bool operator>=(LPCSTR a, const CString& b) {
     return b.Compare(a) <= 0;
 }
-
-#if defined(_WIN32)
-// The module of the chain whose resources hold the string nID: the program's, then the extension DLLs'.
-ORVAFX_API HINSTANCE AfxFindStringResource(UINT nID);
-#endif

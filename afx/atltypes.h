@@ -39,6 +39,9 @@ public:
 
     BOOL operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
     BOOL operator!=(SIZE size) const { return !(*this == size); }
+    // The same once more, or C++20 finds the comparison of two of them ambiguous.
+    BOOL operator==(const CSize& size) const { return *this == static_cast<const SIZE&>(size); }
+    BOOL operator!=(const CSize& size) const { return !(*this == size); }
     void operator+=(SIZE size) { SetSize(orv::wrapAdd(cx, size.cx), orv::wrapAdd(cy, size.cy)); }
     void operator-=(SIZE size) { SetSize(orv::wrapSub(cx, size.cx), orv::wrapSub(cy, size.cy)); }
     void SetSize(int nCX, int nCY) {
@@ -75,6 +78,9 @@ public:
 
     BOOL operator==(POINT pt) const { return x == pt.x && y == pt.y; }
     BOOL operator!=(POINT pt) const { return !(*this == pt); }
+    // The same once more, or C++20 finds the comparison of two of them ambiguous.
+    BOOL operator==(const CPoint& pt) const { return *this == static_cast<const POINT&>(pt); }
+    BOOL operator!=(const CPoint& pt) const { return !(*this == pt); }
     void operator+=(SIZE size) { Offset(size); }
     void operator-=(SIZE size) { Offset(orv::wrapSub(0, size.cx), orv::wrapSub(0, size.cy)); }
     void operator+=(POINT pt) { Offset(pt); }
@@ -175,6 +181,8 @@ public:
     CRect& operator=(const CRect&) = default;
     BOOL operator==(const RECT& rect) const { return EqualRect(&rect); }
     BOOL operator!=(const RECT& rect) const { return !EqualRect(&rect); }
+    BOOL operator==(const CRect& rect) const { return EqualRect(&rect); }
+    BOOL operator!=(const CRect& rect) const { return !EqualRect(&rect); }
     void operator+=(POINT point) { OffsetRect(point); }
     void operator+=(SIZE size) { OffsetRect(size); }
     void operator+=(LPCRECT lpRect) { InflateRect(lpRect); }
