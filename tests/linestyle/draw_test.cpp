@@ -1,0 +1,321 @@
+// Paths of real device contexts, drawn by the managers.
+
+#include <afxwin.h>
+
+#include <orvfc/linestyle/LineProperBar.h>
+#include <orvfc/linestyle/LineTypeSet.h>
+
+#include <gtest/gtest.h>
+
+#include "sheet.h"
+#include "support/debug_events.h"
+#include "support/gdi_count.h"
+
+#include <math.h>
+
+using orv::test::DebugEvents;
+using orv::test::Seen;
+using orv::test::Sheet;
+
+namespace {
+
+// A device context that records what is drawn.
+class Paper {
+public:
+    Paper() { dc.Attach(sheet_.dc()); }
+    ~Paper() { dc.Detach(); }
+    Seen take() { return sheet_.take(); }
+
+    CDC dc;
+
+private:
+    Sheet sheet_;
+};
+
+void polylinePath(CDC& dc, std::initializer_list<POINT> points) {
+    dc.BeginPath();
+    dc.MoveTo(*points.begin());
+    for (const POINT& point : points)
+        if (&point != points.begin())
+            dc.LineTo(point);
+    dc.EndPath();
+}
+
+// A white picture in memory.
+class Picture {
+public:
+    Picture(int width, int height) : width_(width) {
+        BITMAPINFO info = {};
+        info.bmiHeader.biSize = sizeof(info.bmiHeader);
+        info.bmiHeader.biWidth = width;
+        info.bmiHeader.biHeight = -height;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        dc.CreateCompatibleDC(NULL);
+        bitmap_ = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits_, NULL, 0);
+        old_ = ::SelectObject(dc, bitmap_);
+        memset(bits_, 0xFF, size_t(4) * width * height);
+    }
+    ~Picture() {
+        ::SelectObject(dc, old_);
+        ::DeleteObject(bitmap_);
+    }
+    // One character per pixel of a row: '.' for white.
+    std::string row(int y) {
+        ::GdiFlush();
+        std::string text;
+        for (int x = 0; x < width_; ++x)
+            text += (static_cast<DWORD*>(bits_)[y * width_ + x] & 0xFFFFFF) == 0xFFFFFF ? '.' : '#';
+        return text;
+    }
+
+    CDC dc;
+
+private:
+    int width_;
+    void* bits_ = NULL;
+    HBITMAP bitmap_;
+    HGDIOBJ old_;
+};
+
+struct DrawRow {
+    const char* name;
+    int type, width;
+    COLORREF color;
+    int main, single; // results of the two managers
+    Seen seen;        // by the main manager, of a line from (0, 50) to (30, 50) and up to (30, 30)
+};
+
+const DrawRow drawRows[] = {
+    {"dash",
+     1,
+     3,
+     0x0000FF,
+     1,
+     1,
+     {"0,50 18,50 w3 0000FF", "23,50 30,50 w3 0000FF", "30,50 30,39 w3 0000FF", "30,34 30,30 w3 0000FF"}},
+    {"dash-dot",
+     3,
+     1,
+     0x00FF00,
+     1,
+     1,
+     {"0,50 17,50 w1 00FF00", "22,50 27,50 w1 00FF00", "30,48 30,31 w1 00FF00"}},
+    {"below width 1: defaults",
+     1,
+     0,
+     0x0000FF,
+     1,
+     1,
+     {"0,50 18,50 w1 000000", "23,50 30,50 w1 000000", "30,50 30,39 w1 000000", "30,34 30,30 w1 000000"}},
+    {"negative width",
+     1,
+     -5,
+     0x0000FF,
+     1,
+     1,
+     {"0,50 18,50 w1 000000", "23,50 30,50 w1 000000", "30,50 30,39 w1 000000", "30,34 30,30 w1 000000"}},
+    {"one tent for the whole path", 101, 2, 0xFF0000, 1, 1, {"0,50 1,47 3,50 w2 FF0000"}},
+    {"solid is no pattern", 0, 1, 0, 0, 1, {}},
+    {"no line", 5, 1, 0, 0, 0, {}},
+    {"unknown", 77, 1, 0, 0, 0, {}},
+};
+
+TEST(Draw, ByTypeWidthAndColour) {
+    for (const DrawRow& row : drawRows) {
+        SCOPED_TRACE(row.name);
+        Paper paper;
+        polylinePath(paper.dc, {{0, 50}, {30, 50}, {30, 30}});
+        COrvMainDrawManage manager("");
+        EXPECT_EQ(row.main, manager.Draw(&paper.dc, row.type, row.width, row.color));
+        EXPECT_EQ(3, paper.dc.GetPath(NULL, NULL, 0)) << "the path stays";
+        if (COrvDrawBasicDash* dash = manager.GetLineType(row.type)) {
+            EXPECT_EQ(row.width, dash->m_nWidth);
+            EXPECT_EQ(row.color, dash->m_crColor);
+        }
+        EXPECT_EQ(row.seen, paper.take());
+
+        Paper other;
+        polylinePath(other.dc, {{0, 50}, {30, 50}, {30, 30}});
+        COrvDrawManage set;
+        set.InitToGerApp();
+        EXPECT_EQ(row.single, set.Draw(&other.dc, row.type, row.width, row.color));
+        if (row.type != 0)
+            EXPECT_EQ(row.seen, other.take());
+    }
+}
+
+TEST(Draw, SolidIsStrokedByTheSingleManager) {
+    Paper paper;
+    polylinePath(paper.dc, {{0, 0}, {30, 0}});
+    COrvDrawManage set;
+    EXPECT_EQ(1, set.Draw(&paper.dc, 0, 4, 0x0000FF));
+    EXPECT_EQ(Seen{"path w4 0000FF"}, paper.take());
+}
+
+TEST(Draw, RailwayWithoutAManager) {
+    Paper paper;
+    polylinePath(paper.dc, {{100, 100}, {130, 100}});
+    EXPECT_EQ(0, DrawSpeciaPath(&paper.dc, 1, 10));
+    EXPECT_EQ(1, DrawSpeciaPath(&paper.dc, 101, 10));
+    EXPECT_EQ((Seen{"100,95 120,95 w1 000000", "99,105 119,105 w1 000000", "100,95 99,105 w1 000000",
+                    "block 120,95 119,105 129,105 130,95 120,95 w1 000000 fill 000000"}),
+              paper.take());
+}
+
+TEST(Draw, FiguresOfOnePathAreJoined) {
+    Paper paper;
+    paper.dc.BeginPath();
+    for (int y : {0, 40}) {
+        paper.dc.MoveTo(0, y);
+        paper.dc.LineTo(6, y);
+    }
+    paper.dc.EndPath();
+    COrvMainDrawManage("").Draw(&paper.dc, 1, 1, 0);
+    EXPECT_EQ((Seen{"0,0 6,0 w1 000000", "6,0 6,40 w1 000000"}), paper.take());
+}
+
+TEST(Draw, CurvesAreFlattenedFirst) {
+    Paper paper;
+    paper.dc.BeginPath();
+    paper.dc.Ellipse(0, 0, 400, 400);
+    paper.dc.EndPath();
+    COrvMainDrawManage manager("");
+    EXPECT_EQ(1, manager.Draw(&paper.dc, 2, 1, 0));
+    double length = 0;
+    for (const std::string& stroke : paper.take()) {
+        int x1, y1, x2, y2;
+        ASSERT_EQ(4, sscanf(stroke.c_str(), "%d,%d %d,%d", &x1, &y1, &x2, &y2));
+        EXPECT_NEAR(200, hypot(x1 - 200, y1 - 200), 2.5) << stroke;
+        length += hypot(x2 - x1, y2 - y1);
+    }
+    EXPECT_NEAR(3.14159 * 400 / 2, length, 60) << "half of the circle is dots";
+}
+
+TEST(Draw, WithoutAPath) {
+    Paper paper;
+    COrvMainDrawManage manager("");
+    EXPECT_EQ(1, manager.Draw(&paper.dc, 1, 1, 0));
+    COrvDrawManage set;
+    EXPECT_EQ(1, set.Draw(&paper.dc, 0, 1, 0));
+    COrvGPathData path;
+    EXPECT_GT(1, path.GetPathData(&paper.dc));
+    EXPECT_EQ(NULL, path.m_pPoints);
+    for (const std::string& seen : paper.take())
+        EXPECT_EQ("path", seen.substr(0, 4));
+}
+
+TEST(Draw, ThePathIsCopiedAnew) {
+    Paper paper;
+    COrvGPathData path;
+    polylinePath(paper.dc, {{1, 2}, {3, 4}, {5, 6}});
+    EXPECT_EQ(3, path.GetPathData(&paper.dc));
+    polylinePath(paper.dc, {{7, 8}, {9, 10}});
+    EXPECT_EQ(2, path.GetPathData(&paper.dc));
+    EXPECT_EQ(2, path.m_nCount);
+    EXPECT_EQ(9, path.m_pPoints[1].x);
+    EXPECT_EQ(PT_LINETO, path.m_pTypes[1]);
+}
+
+TEST(Draw, PixelsOfDashesAndGaps) {
+    Picture picture(50, 9);
+    polylinePath(picture.dc, {{0, 4}, {48, 4}});
+    COrvMainDrawManage manager("");
+    manager.Draw(&picture.dc, 1, 1, 0);
+    EXPECT_EQ("##################.....##################.....##..", picture.row(4));
+    polylinePath(picture.dc, {{0, 4}, {48, 4}});
+    manager.Draw(&picture.dc, 1, 3, 0);
+    for (int y = 0; y < 9; ++y) {
+        SCOPED_TRACE(y);
+        const bool covered = y >= 3 && y <= 5;
+        // Flat caps: the gaps keep their width.
+        EXPECT_EQ(covered ? std::string(18, '#') + "....." : std::string(23, '.'),
+                  picture.row(y).substr(0, 23));
+    }
+}
+
+TEST(Draw, LeavesTheDeviceContextAndTheSystemAsTheyWere) {
+    Picture picture(400, 400);
+    CPen pen(PS_SOLID, 7, RGB(1, 2, 3));
+    CBrush brush(RGB(4, 5, 6));
+    CPen* oldPen = picture.dc.SelectObject(&pen);
+    CBrush* oldBrush = picture.dc.SelectObject(&brush);
+    const auto drawAll = [&] {
+        for (int type : {0, 1, 2, 3, 4, 5, 101, 77}) {
+            COrvDrawManage set;
+            set.InitToGerApp();
+            polylinePath(picture.dc, {{0, 0}, {399, 399}, {399, 0}});
+            set.Draw(&picture.dc, type, 3, 0x0000FF);
+            EXPECT_EQ(pen.m_hObject, ::GetCurrentObject(picture.dc, OBJ_PEN)) << type;
+        }
+        polylinePath(picture.dc, {{0, 0}, {399, 399}, {399, 0}});
+        DrawSpeciaPath(&picture.dc, 101, 12);
+        EXPECT_EQ(pen.m_hObject, ::GetCurrentObject(picture.dc, OBJ_PEN));
+        EXPECT_EQ(brush.m_hObject, ::GetCurrentObject(picture.dc, OBJ_BRUSH));
+    };
+    drawAll();
+    const int handles = orv::test::liveGdiHandles();
+    for (int i = 0; i < 5; ++i)
+        drawAll();
+    EXPECT_EQ(handles, orv::test::liveGdiHandles());
+    picture.dc.SelectObject(oldPen);
+    picture.dc.SelectObject(oldBrush);
+}
+
+TEST(Draw, CallersBugsAreAssertedAndHarmless) {
+    DebugEvents events;
+    int bugs = 0;
+    COrvMainDrawManage manager("");
+    EXPECT_EQ(0, manager.Draw(NULL, 1, 1, 0));
+    EXPECT_EQ(++bugs, events.assertions());
+    EXPECT_EQ(0, COrvDrawManage().Draw(NULL, 0, 1, 0));
+    EXPECT_EQ(++bugs, events.assertions());
+    EXPECT_EQ(0, DrawSpeciaPath(NULL, 101, 1));
+    EXPECT_EQ(++bugs, events.assertions());
+    EXPECT_EQ(0, COrvGPathData().GetPathData(NULL));
+    EXPECT_EQ(++bugs, events.assertions());
+    COrvDrawCurve curve;
+    EXPECT_EQ(0, curve.MoveTo(1, 1));
+    EXPECT_EQ(++bugs, events.assertions());
+    EXPECT_EQ(0, curve.LineTo(1, 1));
+    EXPECT_EQ(++bugs, events.assertions());
+    EXPECT_EQ(0, curve.PolyDraw(NULL, NULL, 0));
+    EXPECT_EQ(++bugs, events.assertions());
+    COrvDrawDashDash dash;
+    EXPECT_EQ(0, COrvDrawCurve(&dash).PolyDraw(NULL, NULL, 2));
+    EXPECT_EQ(++bugs, events.assertions());
+    CLineTypeSet set;
+    EXPECT_EQ(NULL, set.GetElement(7));
+    EXPECT_EQ(++bugs, events.assertions());
+    EXPECT_EQ("", std::string(LineTypeStruct(static_cast<const LineTypeStruct*>(NULL)).strName));
+    EXPECT_EQ(++bugs, events.assertions());
+}
+
+TEST(Traces, OfTheCatalogueAndTheArray) {
+    DebugEvents events;
+    CLineTypeSet set;
+    EXPECT_STREQ("自定义线型 7 ", set.GetLineName(7));
+    CDynamicPtrArray<LineTypeStruct>().Add(NULL);
+    EXPECT_EQ((Seen{"在动态数组中没有nLineType的值 ",
+                    "CDynamicPtrArray::Add(T*pElement) is failed. The pElement is NULL\n"}),
+              events.traces());
+}
+
+TEST(Dump, TellsWhatAnObjectHolds) {
+    CMemFile file;
+    CDumpContext dump(&file);
+    COrvDrawDashDash dash;
+    dash.m_nLen1 = 4711;
+    dash.Dump(dump);
+    COrvDrawManage set;
+    set.InitToGerApp();
+    set.Dump(dump);
+    dump.Flush();
+    std::string text(static_cast<size_t>(file.GetLength()), ' ');
+    file.SeekToBegin();
+    file.Read(text.data(), UINT(text.size()));
+    EXPECT_NE(std::string::npos, text.find("4711"));
+    EXPECT_NE(std::string::npos, text.find("5 patterns"));
+}
+
+} // namespace

@@ -1,0 +1,167 @@
+// Line-type files on the disk, and what the user is told.
+
+#include <afxwin.h>
+
+#include <orvfc/linestyle/LineProperBar.h>
+#include <orvfc/services/GerNer.h>
+#include <orvfc/services/SysInfo.h>
+
+#include <gtest/gtest.h>
+
+#include "stored.h"
+
+#include <direct.h>
+
+using namespace orv::test;
+
+namespace {
+
+class TalkingApp : public CWinApp {
+public:
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override {
+        said.push_back(lpszPrompt);
+        return IDOK;
+    }
+    // How many boxes came up since the last question. None is empty.
+    int boxes() {
+        for (const std::string& text : said)
+            EXPECT_FALSE(text.empty());
+        const int count = int(said.size());
+        said.clear();
+        return count;
+    }
+
+    std::vector<std::string> said;
+} talkingApp;
+
+// An empty current directory of its own, whose name ends in a byte that looks like a backslash.
+class LineTypeFiles : public testing::Test {
+protected:
+    void SetUp() override {
+        ::GetCurrentDirectoryA(sizeof(before_), before_);
+        _mkdir(kName);
+        ASSERT_TRUE(::SetCurrentDirectoryA(kName));
+        _mkdir("sub");
+        talkingApp.said.clear();
+    }
+    void TearDown() override {
+        for (const char* file : {"sub\\x.lin", "x.lin", "誠", "orvDrawType.lin"})
+            remove(file);
+        remove(defaultFile());
+        _rmdir("sub");
+        ::SetCurrentDirectoryA(before_);
+        _rmdir(kName);
+    }
+    static CString defaultFile() { return CSysInfo::GetAppPath() + "orvDrawType.lin"; }
+
+    static void write(const char* name, const std::string& bytes) {
+        FILE* file = fopen(name, "wb");
+        ASSERT_TRUE(file);
+        fwrite(bytes.data(), 1, bytes.size(), file);
+        fclose(file);
+    }
+    static std::string onePattern(int type) {
+        COrvDrawBasicDash base;
+        return int32(4) + std::string("\x01N") + int32(1) + int32(type) + store(base);
+    }
+
+private:
+    static constexpr const char* kName = "line_type_file_誠";
+    char before_[MAX_PATH];
+};
+
+TEST_F(LineTypeFiles, SavingTakesTheNameAsItIsLoadingItsLastPartOnly) {
+    COrvDrawManage set;
+    set.InitToGerApp();
+    EXPECT_EQ(1, set.SaveToFile("sub\\x.lin"));
+    EXPECT_TRUE(IsFileExist("sub\\x.lin"));
+    EXPECT_EQ(0, set.LoadFromFile("sub\\x.lin")) << "looked for in the current directory";
+    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_TRUE(set.GetDashFromType(4)) << "as before";
+
+    EXPECT_EQ(1, set.SaveToFile("x.lin"));
+    EXPECT_EQ(1, set.LoadFromFile("C:\\nowhere\\x.lin"));
+    EXPECT_EQ(0, talkingApp.boxes());
+    EXPECT_TRUE(set.GetDashFromType(101));
+    EXPECT_EQ(NULL, set.GetDashFromType(4)) << "out of step behind the zig-zag";
+
+    EXPECT_EQ(1, set.SaveToFile("誠"));
+    EXPECT_EQ(1, set.LoadFromFile("誠")) << "no backslash at the end";
+}
+
+TEST_F(LineTypeFiles, DefaultName) {
+    COrvDrawManage set;
+    EXPECT_EQ(1, set.SaveToFile(""));
+    EXPECT_TRUE(IsFileExist(defaultFile()));
+    EXPECT_FALSE(IsFileExist("orvDrawType.lin"));
+    EXPECT_EQ(0, set.LoadFromFile("")) << "the name alone";
+    EXPECT_EQ(1, talkingApp.boxes());
+    write("orvDrawType.lin", onePattern(5));
+    for (const char* name : {"", "C:\\nowhere\\", "誠\\"}) {
+        set.Init();
+        EXPECT_EQ(1, set.LoadFromFile(name)) << name;
+        EXPECT_EQ(4, set.m_nVersion);
+    }
+    EXPECT_EQ(0, set.SaveToFile("nowhere\\")) << "only an empty name is replaced";
+    EXPECT_EQ(1, talkingApp.boxes());
+}
+
+TEST_F(LineTypeFiles, DamagedFilesLeaveTheSetAsItWas) {
+    const std::string good = onePattern(5);
+    COrvDrawManage set;
+    set.InitToGerApp();
+    for (size_t size :
+         {size_t(0), size_t(3), size_t(5), size_t(9), size_t(13), size_t(20), good.size() - 1}) {
+        write("x.lin", good.substr(0, size));
+        EXPECT_EQ(0, set.LoadFromFile("x.lin")) << size;
+        EXPECT_EQ(1, talkingApp.boxes());
+        EXPECT_EQ(0, set.m_nVersion);
+        EXPECT_TRUE(set.GetDashFromType(4));
+    }
+    EXPECT_EQ(0, set.SaveToFile("nowhere\\x.lin"));
+    EXPECT_EQ(1, talkingApp.boxes());
+}
+
+TEST_F(LineTypeFiles, TheMainManagerAddsSets) {
+    COrvMainDrawManage manager("");
+    EXPECT_EQ(NULL, manager.GetLineType(5));
+    EXPECT_EQ(NULL, manager.GetLineType(5, "x.lin"));
+    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(0, manager.Load("x.lin"));
+    EXPECT_EQ(1, talkingApp.boxes());
+    write("x.lin", onePattern(5));
+    EXPECT_TRUE(manager.GetLineType(1, "nowhere")) << "known: no file is looked for";
+    COrvDrawBasicDash* dash = manager.GetLineType(5, "x.lin");
+    ASSERT_TRUE(dash);
+    EXPECT_EQ(dash, manager.GetLineType(5)) << "the set stays";
+    EXPECT_EQ(1, manager.Load("x.lin"));
+    EXPECT_EQ(dash, manager.GetLineType(5)) << "the first one wins";
+    EXPECT_EQ(NULL, manager.GetLineType(6, "x.lin"));
+    manager.EmptyAll();
+    EXPECT_EQ(NULL, manager.GetLineType(1));
+    manager.Init();
+    EXPECT_TRUE(manager.GetLineType(1));
+    EXPECT_EQ(0, talkingApp.boxes());
+}
+
+TEST_F(LineTypeFiles, TheMainManagerSavesAllItsSets) {
+    COrvMainDrawManage manager("");
+    EXPECT_EQ(1, manager.Save());
+    EXPECT_TRUE(IsFileExist(defaultFile())) << "the program's directory to begin with";
+    manager.SetPathName("x.lin");
+    EXPECT_EQ(1, manager.Save());
+    EXPECT_TRUE(IsFileExist("x.lin"));
+    manager.SetPathName("誠");
+    EXPECT_EQ(1, manager.Save());
+    EXPECT_TRUE(IsFileExist("誠")) << "a file, not a directory";
+    remove(defaultFile());
+    COrvMainDrawManage other("x.lin"); // not kept
+    EXPECT_EQ(1, other.Save());
+    EXPECT_TRUE(IsFileExist(defaultFile()));
+    other.Init();
+    other.SetPathName("nowhere\\x.lin");
+    EXPECT_EQ(0, other.Save());
+    EXPECT_EQ(2, talkingApp.boxes()) << "every set is tried";
+}
+
+} // namespace

@@ -1,0 +1,376 @@
+// The six patterns: what is seen, what is kept from piece to piece, what a line property reaches.
+
+#include <afx.h>
+
+#include <orvfc/linestyle/OrvGraphic.h>
+
+#include <gtest/gtest.h>
+
+#include "sheet.h"
+
+#include <limits>
+#include <memory>
+
+using orv::test::Seen;
+using orv::test::Sheet;
+
+namespace {
+
+std::unique_ptr<COrvDrawBasicDash> makeDash(int type, HDC dc) {
+    switch (type) {
+    case 1:
+        return std::make_unique<COrvDrawDashDash>(dc);
+    case 2:
+        return std::make_unique<COrvDrawDashDot>(dc);
+    case 3:
+        return std::make_unique<COrvDrawDashDotDot>(dc);
+    case 4:
+        return std::make_unique<COrvDrawDashDotDotTwice>(dc);
+    default:
+        return std::make_unique<COrvDrawBasicDash>(dc);
+    }
+}
+
+TEST(Pattern, OnAndOffAlongALine) {
+    struct {
+        int type, to;
+        std::vector<int> ends; // of the visible strokes
+    } const rows[] = {
+        {1, 97, {0, 18, 23, 41, 46, 64, 69, 87, 92, 97}},
+        {2, 37, {0, 5, 10, 15, 20, 25, 30, 35}},
+        {3, 97, {0, 17, 22, 27, 32, 49, 54, 59, 64, 81, 86, 91, 96, 97}},
+        {4, 97, {0, 17, 23, 28, 34, 39, 45, 62, 68, 73, 79, 84, 90, 97}},
+        {1, 23, {0, 18, 23, 23}}, // ends with a piece: the next one is there without length
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.type);
+        Sheet sheet;
+        auto dash = makeDash(row.type, sheet.dc());
+        EXPECT_EQ(row.type, dash->GetDashType());
+        EXPECT_EQ(1, dash->GetDrawType());
+        COrvDrawCurve curve(dash.get());
+        EXPECT_EQ(1, curve.MoveTo(0, 7));
+        EXPECT_EQ(1, curve.LineTo(row.to, 7));
+        Seen expected;
+        for (size_t i = 0; i < row.ends.size(); i += 2)
+            expected.push_back(std::to_string(row.ends[i]) + ",7 " + std::to_string(row.ends[i + 1]) +
+                               ",7 w1 000000");
+        EXPECT_EQ(expected, sheet.take());
+    }
+}
+
+template <class Dash>
+std::string kindsAlong(int pieces) {
+    Sheet sheet;
+    Dash dash(sheet.dc());
+    dash.m_nStyle1 = dash.m_nStyle0; // gaps that can be seen
+    dash.m_crColor0 = 0;
+    dash.m_crColor1 = 1;
+    if constexpr (requires { dash.m_crColor2; })
+        dash.m_crColor2 = 2;
+    for (int i = 0; i < pieces; ++i)
+        dash.DrawDash(0, 0, dash.GetLength(i), 0, i);
+    std::string kinds;
+    for (const std::string& stroke : sheet.take())
+        kinds += stroke.back();
+    return kinds;
+}
+
+TEST(Pattern, PensByPhase) {
+    EXPECT_EQ("01010", kindsAlong<COrvDrawDashDash>(5));
+    EXPECT_EQ("01010", kindsAlong<COrvDrawDashDot>(5));
+    EXPECT_EQ("01210121", kindsAlong<COrvDrawDashDotDot>(8));
+    EXPECT_EQ("0121210121", kindsAlong<COrvDrawDashDotDotTwice>(10));
+}
+
+TEST(Pattern, APieceGoesOnBehindAVertex) {
+    Sheet sheet;
+    COrvDrawDashDash dash(sheet.dc());
+    COrvDrawCurve curve(&dash);
+    curve.MoveTo(0, 0);
+    EXPECT_EQ(1, curve.LineTo(10, 0));
+    EXPECT_DOUBLE_EQ(8, dash.m_dRemain);
+    EXPECT_EQ(0, curve.m_nIndex);
+    EXPECT_EQ(1, curve.LineTo(10, 20));
+    EXPECT_EQ(2, curve.m_nIndex);
+    EXPECT_DOUBLE_EQ(11, dash.m_dRemain);
+    EXPECT_EQ((Seen{"0,0 10,0 w1 000000", "10,0 10,8 w1 000000", "10,13 10,20 w1 000000"}), sheet.take());
+}
+
+TEST(Pattern, LessThanAHundredthCountsAsDone) {
+    COrvDrawDashDash dash;
+    dash.DrawDash(0, 0, 17.989, 0, 0);
+    EXPECT_NEAR(0.011, dash.m_dRemain, 1e-9);
+    dash.DrawDash(0, 0, 0.002, 0, 0);
+    EXPECT_EQ(5, dash.m_dRemain);
+}
+
+TEST(Pattern, NextPieceStartsWhereTheLastEnded) {
+    Sheet sheet;
+    COrvDrawDashDot dash(sheet.dc());
+    dash.DrawDash(1.9, -1.9, 4.9, 2, 0); // a new figure: truncated toward zero
+    dash.DrawDash(50, 50, 60, 60, 0);
+    EXPECT_EQ(0, dash.IsMoveToNew());
+    EXPECT_EQ(60, dash.m_ptLastA.x);
+    EXPECT_EQ(60, dash.m_ptLastB.y);
+    EXPECT_EQ((Seen{"1,-1 4,2 w1 000000", "4,2 60,60 w1 000000"}), sheet.take());
+}
+
+TEST(Pattern, NegativePieceNumbers) {
+    Sheet sheet;
+    COrvDrawDashDotDot dashDot(sheet.dc());
+    EXPECT_EQ(1, dashDot.DrawDash(0, 0, 30, 0, -2));
+    EXPECT_EQ(-2, dashDot.m_nPhase);
+    EXPECT_EQ(-13, dashDot.m_dRemain);
+    COrvDrawDashDash dash(sheet.dc());
+    dash.DrawDash(0, 0, 6, 0, -2); // two phases alternate all the same
+    EXPECT_EQ(0, dash.m_nPhase);
+    EXPECT_EQ(Seen{"0,0 6,0 w1 000000"}, sheet.take());
+}
+
+template <class Dash>
+Seen linePropertyOf(const Dash& dash) {
+    char text[100];
+    snprintf(text, sizeof(text), "w%d,%d colours %06X,%06X", dash.m_nWidth0, dash.m_nWidth1,
+             unsigned(dash.m_crColor0), unsigned(dash.m_crColor1));
+    return {text};
+}
+
+Seen linePropertyOf(const COrvDrawDashRailway& dash) {
+    char text[100];
+    snprintf(text, sizeof(text), "gauge %d colours %06X,%06X", dash.m_nGauge, unsigned(dash.m_crColor0),
+             unsigned(dash.m_crColor1));
+    return {text};
+}
+
+template <class Dash>
+void expectLineProperty(const char* set, const char* restored) {
+    Dash dash;
+    dash.m_ptLastB = {3, 4};
+    EXPECT_EQ(Seen{restored}, linePropertyOf(dash));
+    EXPECT_EQ(1, dash.SetLineProperty(4, 0x102030));
+    EXPECT_EQ(Seen{set}, linePropertyOf(dash));
+    EXPECT_EQ(4, dash.m_nWidth);
+    EXPECT_EQ(0x102030u, dash.m_crColor);
+    dash.DrawDash(0, 0, 3, 0, 4);
+    dash.m_nDrawType = 0;
+    EXPECT_EQ(1, dash.FinishDraw());
+    EXPECT_EQ(Seen{restored}, linePropertyOf(dash));
+    EXPECT_EQ(1, dash.m_nDrawType);
+    EXPECT_EQ(1, dash.m_bMoveToNew);
+    EXPECT_EQ(1, dash.m_nPhase);
+    EXPECT_EQ(dash.m_nLen0, dash.m_dRemain);
+    EXPECT_EQ(4, dash.m_nWidth) << "the base keeps its own";
+    dash.SetLineProperty(4, 0x102030);
+    EXPECT_EQ(1, dash.SetLinePropertyDefault());
+    EXPECT_EQ(Seen{restored}, linePropertyOf(dash));
+}
+
+TEST(Pattern, LinePropertiesLastForOneDrawing) {
+    expectLineProperty<COrvDrawDashDash>("w4,4 colours 102030,EFDFCF", "w1,1 colours 000000,FFFFFF");
+    expectLineProperty<COrvDrawDashDot>("w4,4 colours 102030,102030", "w1,1 colours 000000,FFFFFF");
+    expectLineProperty<COrvDrawDashDotDot>("w4,4 colours 102030,FFFFFF", "w1,1 colours 000000,FFFFFF");
+    expectLineProperty<COrvDrawDashDotDotTwice>("w4,4 colours 102030,EFDFCF", "w1,1 colours 000000,FFFFFF");
+    COrvDrawDashDotDot three;
+    three.SetLineProperty(4, 0x102030);
+    EXPECT_EQ(4, three.m_nWidth2);
+    EXPECT_EQ(0x102030u, three.m_crColor2);
+
+    COrvDrawDashRailway railway;
+    EXPECT_EQ(Seen{"gauge 10 colours 000000,FFFFFF"}, linePropertyOf(railway));
+    railway.SetLineProperty(4, 0x102030);
+    EXPECT_EQ(Seen{"gauge 4 colours 000000,FFFFFF"}, linePropertyOf(railway));
+    EXPECT_EQ(1, railway.FinishDraw());
+    EXPECT_EQ(Seen{"gauge 10 colours 000000,FFFFFF"}, linePropertyOf(railway));
+
+    COrvDrawDashWeaver weaver;
+    weaver.SetLineProperty(4, 0x102030);
+    weaver.m_nAmp1 = 9;
+    EXPECT_EQ(1, weaver.FinishDraw());
+    EXPECT_EQ(4, weaver.m_nWidth);
+    EXPECT_EQ(9, weaver.m_nAmp1) << "the zig-zag restores nothing";
+}
+
+TEST(Pattern, OnlyTheDashClearsItsPointsWhenFinished) {
+    using TwoKinds = COrvDrawOnOffDash<OrvTwoKinds>;
+    COrvDrawDashDash dash;
+    COrvDrawDashDot dot;
+    for (TwoKinds* pattern : {static_cast<TwoKinds*>(&dash), static_cast<TwoKinds*>(&dot)}) {
+        pattern->DrawDash(0, 0, 3, 4, 0);
+        pattern->m_ptLastC = {5, 6};
+        pattern->FinishDraw();
+    }
+    EXPECT_EQ(0, dash.m_ptLastA.x + dash.m_ptLastB.y + dash.m_ptLastC.x);
+    EXPECT_EQ(3 + 4 + 5, dot.m_ptLastA.x + dot.m_ptLastB.y + dot.m_ptLastC.x);
+}
+
+TEST(Pattern, ANewFigureAfterADashStrokesToTheZeroPoint) {
+    struct {
+        int type, pieces; // drawn before the new figure
+        Seen expected;
+    } const rows[] = {
+        {1, 0, {}}, {1, 1, {"9,8 0,0 w3 0000FF"}}, {1, 2, {}}, {3, 1, {"9,8 0,0 w3 0000FF"}}, {3, 3, {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.type << " after " << row.pieces);
+        Sheet sheet;
+        auto dash = makeDash(row.type, NULL);
+        dash->SetLineProperty(3, 0x0000FF);
+        for (int i = 0; i < row.pieces; ++i)
+            dash->DrawDash(0, 0, 9, 8, i);
+        dash->m_hDC = sheet.dc();
+        dash->SetMoveToNew(0);
+        dash->SetMoveToNew(1);
+        EXPECT_EQ(1, dash->IsMoveToNew());
+        EXPECT_EQ(row.expected, sheet.take());
+    }
+}
+
+TEST(Pattern, TheClosingStrokeCanBeDrawnAgain) {
+    Sheet sheet;
+    COrvDrawDashDotDot dash;
+    EXPECT_EQ(0, dash.ResetDrawEnvir()) << "nowhere to draw";
+    dash.m_hDC = sheet.dc();
+    dash.m_ptLastB = {1, 2};
+    dash.m_ptLastC = {3, 4};
+    EXPECT_EQ(1, dash.ResetDrawEnvir()) << "whatever the phase";
+    COrvDrawDashRailway railway(sheet.dc());
+    railway.m_ptLastL = {5, 6};
+    railway.m_ptLastR = {7, 8};
+    EXPECT_EQ(1, railway.ResetDrawEnvir());
+    COrvDrawDashWeaver weaver(sheet.dc());
+    EXPECT_EQ(0, weaver.ResetDrawEnvir());
+    COrvDrawBasicDash base(sheet.dc());
+    EXPECT_EQ(0, base.ResetDrawEnvir());
+    EXPECT_EQ((Seen{"1,2 3,4 w1 000000", "5,6 7,8 w1 000000"}), sheet.take());
+}
+
+// The quarter turn of the track is a little short, which truncation shows: right corners lie one unit back.
+TEST(Railway, HollowAndFilledSections) {
+    Sheet sheet;
+    COrvDrawDashRailway railway(sheet.dc());
+    COrvDrawCurve curve(&railway);
+    curve.MoveTo(100, 100);
+    EXPECT_EQ(1, curve.LineTo(150, 100));
+    curve.MoveTo(300, 300); // closes the hollow section in hand
+    EXPECT_EQ((Seen{"100,95 120,95 w1 000000", "99,105 119,105 w1 000000", "100,95 99,105 w1 000000",
+                    "block 120,95 119,105 139,105 140,95 120,95 w1 000000 fill 000000",
+                    "140,95 150,95 w1 000000", "139,105 149,105 w1 000000", "150,95 149,105 w1 000000"}),
+              sheet.take());
+}
+
+TEST(Railway, SharesCornersAndDoesNotCrossAfterASharpTurn) {
+    struct {
+        const char* name;
+        double x, y; // second segment, from (120, 100)
+        Seen expected;
+    } const rows[] = {
+        {"left turn", 120, 80, {"block 120,95 119,105 125,80 115,79 120,95 w1 000000 fill 000000"}},
+        {"back", 100, 100, {"block 120,95 119,105 99,105 100,95 120,95 w1 000000 fill 000000"}},
+        {"no direction", 120, 100, {"block 120,95 119,105 119,105 120,95 120,95 w1 000000 fill 000000"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Sheet sheet;
+        COrvDrawDashRailway railway;
+        railway.DrawDash(100, 100, 120, 100, 0);
+        EXPECT_EQ(20, railway.m_dRemain);
+        railway.m_hDC = sheet.dc();
+        railway.DrawDash(120, 100, row.x, row.y, 1);
+        EXPECT_EQ(row.expected, sheet.take());
+    }
+}
+
+TEST(Railway, WaitsForADirectionBeforeItStarts) {
+    Sheet sheet;
+    COrvDrawDashRailway railway(sheet.dc());
+    EXPECT_EQ(1, railway.DrawDash(100, 100, 100, 100, 0));
+    EXPECT_EQ(1, railway.IsMoveToNew());
+    railway.DrawDash(100, 100, 100, 90, 0); // upwards: left is west
+    EXPECT_EQ((Seen{"95,99 95,89 w1 000000", "105,100 105,90 w1 000000", "95,99 105,100 w1 000000"}),
+              sheet.take());
+}
+
+TEST(Weaver, TentsByTurnsOnEitherSide) {
+    Sheet sheet;
+    COrvDrawDashWeaver weaver(sheet.dc());
+    weaver.SetLineProperty(2, 0x00FF00);
+    weaver.m_nAmp1 = 4;
+    weaver.m_nAmp2 = 2;
+    EXPECT_EQ(2, weaver.GetLength(0));
+    EXPECT_EQ(4, weaver.GetLength(1));
+    EXPECT_EQ(0, weaver.DrawDash(0, 0, 10, 0, 0));
+    EXPECT_EQ(0, weaver.DrawDash(0, 0, 10, 0, 1));
+    EXPECT_EQ(5, weaver.m_dRemain);
+    EXPECT_EQ((Seen{"0,0 5,-4 10,0 w2 00FF00", "0,0 5,2 10,0 w2 00FF00"}), sheet.take());
+}
+
+TEST(Weaver, OneTentPerSegment) {
+    Sheet sheet;
+    COrvDrawDashWeaver weaver(sheet.dc());
+    COrvDrawCurve curve(&weaver);
+    curve.MoveTo(0, 0);
+    EXPECT_EQ(0, curve.LineTo(30, 0));
+    EXPECT_EQ(0, curve.LineTo(30, 0));
+    EXPECT_EQ(0, curve.m_nIndex);
+    EXPECT_EQ((Seen{"0,0 1,-3 3,0 w1 000000", "3,0 4,-3 6,0 w1 000000"}), sheet.take());
+}
+
+TEST(Pattern, HarmlessWithAnyNumbers) {
+    const double tooLong = 2147483648.0; // a walk of minutes
+    const double numbers[] = {0,
+                              -1e300,
+                              1e300,
+                              tooLong,
+                              std::numeric_limits<double>::quiet_NaN(),
+                              std::numeric_limits<double>::infinity()};
+    COrvDrawDashDash dash;
+    COrvDrawDashDotDotTwice twice;
+    COrvDrawDashRailway railway;
+    COrvDrawDashWeaver weaver;
+    railway.m_nGauge = INT_MIN;
+    for (COrvDrawBasicDash* pattern : {(COrvDrawBasicDash*)&dash, (COrvDrawBasicDash*)&twice,
+                                       (COrvDrawBasicDash*)&railway, (COrvDrawBasicDash*)&weaver}) {
+        for (double a : numbers) {
+            for (double b : numbers) {
+                pattern->DrawDash(a, b, b, a, 0);
+                pattern->DrawDash(b, b, a, a, INT_MIN);
+                COrvDrawCurve curve(pattern);
+                curve.MoveTo(0, 0);
+                if (a != tooLong && b != tooLong)
+                    curve.LineTo(a, b);
+                pattern->FinishDraw();
+            }
+        }
+    }
+}
+
+TEST(Pattern, CopiesCarryThePhaseAndTheCopyIsOfItsOwn) {
+    COrvDrawDashDash dash;
+    dash.DrawDash(0, 0, 10, 0, 0);
+    COrvDrawDashDash copy(dash);
+    dash.DrawDash(10, 0, 18, 0, 0);
+    EXPECT_EQ(8, copy.m_dRemain);
+    EXPECT_EQ(10, copy.m_ptLastB.x);
+    copy = dash;
+    EXPECT_EQ(5, copy.m_dRemain);
+}
+
+TEST(Pattern, TheBaseDrawsNoLine) {
+    COrvDrawBasicDash base;
+    EXPECT_STREQ("空类型", base.GetType());
+    EXPECT_EQ(5, base.GetDashType());
+    EXPECT_EQ(10.0, base.GetLength(3));
+    EXPECT_EQ(0, base.FinishDraw());
+    COrvDrawCurve curve(&base);
+    EXPECT_EQ(1, curve.LineTo(9.9, 0));
+    EXPECT_EQ(0, curve.m_dCurX) << "the rest of a piece is not walked";
+    EXPECT_EQ(0, curve.LineTo(10, 0));
+    base.SetLineProperty(7, 0x123456);
+    EXPECT_EQ(1, base.SetLinePropertyDefault());
+    EXPECT_EQ(1, base.m_nWidth);
+    EXPECT_EQ(0u, base.m_crColor);
+    EXPECT_STREQ("空类型", COrvDrawDashWeaver().GetType());
+}
+
+} // namespace
