@@ -39,13 +39,38 @@ inline double clamped(double value, double low, double high) {
 }
 
 inline bool isPart(double t) {
-    return t >= 0 && t <= 1;
+    return (t >= 0) & (t <= 1);
 }
 
-// The end of a nearest to its crossing with b's line, when that end touches b.
-bool touchingEnd(const Segment& a, double t, const Segment& b, double hair, Vec& end) {
+// Farther from the segment than any touch of segments that are not parallel: quickly told, and true of most.
+inline bool isFar(double t) {
+    return (t < -1) | (t > 2);
+}
+
+inline double larger(double a, double b) {
+    return a > b ? a : b;
+}
+
+// The end of a nearest to its crossing with b's line (at t), when that end touches b. slant is the cross
+// product of the two directions: what t is off by, times the slant, is the end's distance from b's line times
+// b's length.
+bool touchingEnd(const Segment& a, double t, const Segment& b, double slant, double hair, Vec& end) {
+    const double off = larger(-t, t - 1);
+    if (!(off * std::fabs(slant) <= hair * size(b.to - b.from)))
+        return false;
     end = t < 0.5 ? a.from : a.to;
     return distanceToSegment(end, b.from, b.to) <= hair;
+}
+
+// What is left when the lines do not cross within both segments: an end that touches the other segment. Kept
+// out of the function's short way, which would otherwise save registers for this one.
+ORV_RARE int answerTouch(const Segment& a, const Segment& b, double t, double u, double slant, double hair,
+                         double* x, double* y) {
+    Vec p;
+    if (!touchingEnd(a, t, b, slant, hair, p) && !touchingEnd(b, u, a, slant, hair, p))
+        return 0;
+    putPoint(x, y, p);
+    return 1;
 }
 
 // ---- Boxes ----
@@ -76,6 +101,11 @@ bool cutToSlab(double start, double delta, double low, double high, Axis axis, P
     if (out < piece.leave.t)
         piece.leave = {out, axis};
     return piece.enter.t <= piece.leave.t;
+}
+
+// Both ends beyond the same side of the range, by more than margin: quickly told, and true of most segments.
+inline bool isBeyond(double from, double to, double low, double high, double margin) {
+    return (from < low - margin && to < low - margin) || (from > high + margin && to > high + margin);
 }
 
 // The piece of the segment inside the box widened by margin; false when there is none.
@@ -177,20 +207,17 @@ int answerArc(const Segment& s, const Arc& arc, double hair, const Outputs& out)
 int ORVMATH_CALL GetCrossPointBetweenLineAndLineInBounds(double x1, double y1, double x2, double y2,
                                                          double x3, double y3, double x4, double y4,
                                                          double* x, double* y) {
-    const Segment a{{x1, y1}, {x2, y2}}, b{{x3, y3}, {x4, y4}};
-    const double hair = hairPart * (size(a.from) + size(a.to) + size(b.from) + size(b.to));
-    const Vec d1 = a.to - a.from, d2 = b.to - b.from, between = b.from - a.from;
-    const double longer = size(d1) > size(d2) ? size(d1) : size(d2);
+    const Vec d1{x2 - x1, y2 - y1}, d2{x4 - x3, y4 - y3}, between{x3 - x1, y3 - y1};
     const double slant = cross(d1, d2);
-    if (!(std::fabs(slant) > hair * longer))
-        return 0;
     const double t = cross(between, d2) / slant, u = cross(between, d1) / slant;
-    Vec p;
-    if (isPart(t) && isPart(u))
-        p = along(a.from, a.to, t);
-    else if (!touchingEnd(a, t, b, hair, p) && !touchingEnd(b, u, a, hair, p))
+    if (isFar(t) | isFar(u))
         return 0;
-    putPoint(x, y, p);
+    const double hair = hairPart * (size({x1, y1}) + size({x2, y2}) + size({x3, y3}) + size({x4, y4}));
+    if (!(std::fabs(slant) > hair * larger(size(d1), size(d2))))
+        return 0;
+    if (!(isPart(t) & (t < 1) & isPart(u)))
+        return answerTouch({{x1, y1}, {x2, y2}}, {{x3, y3}, {x4, y4}}, t, u, slant, hair, x, y);
+    putPoint(x, y, {x1 + t * d1.x, y1 + t * d1.y});
     return 1;
 }
 
@@ -202,7 +229,8 @@ int ORVMATH_CALL GetCrossPointBetweenLineAndBox(double x1, double y1, double x2,
                   {left < right ? right : left, top < bottom ? bottom : top}};
     const double hair = hairPart * (size(s.from) + size(s.to) + size(box.low) + size(box.high));
     const Vec d = s.to - s.from;
-    if (!(size(d) > hair))
+    if (!(size(d) > hair) || isBeyond(s.from.x, s.to.x, box.low.x, box.high.x, hair) ||
+        isBeyond(s.from.y, s.to.y, box.low.y, box.high.y, hair))
         return 0;
     const Outputs out{xa, ya, xb, yb};
     Piece piece;

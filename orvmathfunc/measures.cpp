@@ -43,9 +43,9 @@ void ORVMATH_CALL GetPerHalveLineFromLineDist(double x1, double y1, double x2, d
 }
 
 int ORVMATH_CALL BetweenDistance(double value, double bound1, double bound2, double tolerance) {
-    const bool upwards = bound1 <= bound2;
-    const double low = upwards ? bound1 : bound2, high = upwards ? bound2 : bound1;
-    return low - tolerance <= value && value <= high + tolerance;
+    // In just this form a bound that is not-a-number ends up in low or high, and nothing is between.
+    const double low = bound1 < bound2 ? bound1 : bound2, high = bound1 < bound2 ? bound2 : bound1;
+    return (low - tolerance <= value) & (value <= high + tolerance);
 }
 
 int ORVMATH_CALL BetweenDistanceInt(int value, int bound1, int bound2, int tolerance) {

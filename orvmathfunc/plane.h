@@ -5,6 +5,12 @@
 
 // What the functions share: vectors relative to a local origin, directions on the screen, rounding, outputs.
 
+#if defined(__GNUC__)
+#define ORV_RARE __attribute__((noinline, cold))
+#else
+#define ORV_RARE __declspec(noinline)
+#endif
+
 namespace orv {
 
 constexpr double pi = 3.14159265358979323846;

@@ -14,9 +14,9 @@ struct Outputs {
     double *left, *top, *right, *bottom;
 };
 
-// Written so that a not-a-number makes the rectangle empty.
-inline bool isEmpty(const Rect& r) {
-    return !(r.left < r.right && r.top < r.bottom);
+// A not-a-number makes the rectangle empty. The comparisons are not worth a branch each.
+inline bool holdsSomething(const Rect& r) {
+    return (r.left < r.right) & (r.top < r.bottom);
 }
 
 inline double smaller(double a, double b) {
@@ -27,35 +27,21 @@ inline double larger(double a, double b) {
     return a > b ? a : b;
 }
 
-int answer(const Outputs& out, const Rect& r) {
-    const bool empty = isEmpty(r);
-    put(out.left, empty ? 0 : r.left);
-    put(out.top, empty ? 0 : r.top);
-    put(out.right, empty ? 0 : r.right);
-    put(out.bottom, empty ? 0 : r.bottom);
-    return !empty;
+inline int answer(const Outputs& out, const Rect& r) {
+    const bool counts = holdsSomething(r);
+    put(out.left, counts ? r.left : 0);
+    put(out.top, counts ? r.top : 0);
+    put(out.right, counts ? r.right : 0);
+    put(out.bottom, counts ? r.bottom : 0);
+    return counts;
 }
 
-// For two rectangles that are not empty.
-inline Rect common(const Rect& a, const Rect& b) {
-    return {larger(a.left, b.left), larger(a.top, b.top), smaller(a.right, b.right),
-            smaller(a.bottom, b.bottom)};
-}
-
-// a without the cut, a part of a; a itself where the rest is no rectangle.
-Rect trimmed(Rect a, const Rect& cut) {
-    if (cut.top == a.top && cut.bottom == a.bottom) {
-        if (cut.left == a.left)
-            a.left = cut.right;
-        else if (cut.right == a.right)
-            a.right = cut.left;
-    } else if (cut.left == a.left && cut.right == a.right) {
-        if (cut.top == a.top)
-            a.top = cut.bottom;
-        else if (cut.bottom == a.bottom)
-            a.bottom = cut.top;
-    }
-    return a;
+// a without the side that b covers, from..to being the direction across it. Covered whole, it ends up empty.
+inline void trim(double& from, double& to, double bFrom, double bTo) {
+    if (bFrom <= from && bTo > from)
+        from = bTo;
+    else if (bTo >= to && bFrom < to)
+        to = bFrom;
 }
 
 } // namespace
@@ -64,8 +50,11 @@ int ORVMATH_CALL douIntersectRect(double* left, double* top, double* right, doub
                                   double aTop, double aRight, double aBottom, double bLeft, double bTop,
                                   double bRight, double bBottom) {
     const Rect a{aLeft, aTop, aRight, aBottom}, b{bLeft, bTop, bRight, bBottom};
-    const bool apart = isEmpty(a) || isEmpty(b);
-    return answer({left, top, right, bottom}, apart ? Rect{} : common(a, b));
+    const Outputs out{left, top, right, bottom};
+    if (!holdsSomething(a) || !holdsSomething(b))
+        return answer(out, {});
+    return answer(
+        out, {larger(aLeft, bLeft), larger(aTop, bTop), smaller(aRight, bRight), smaller(aBottom, bBottom)});
 }
 
 int ORVMATH_CALL douUnionRect(double* left, double* top, double* right, double* bottom, double aLeft,
@@ -73,9 +62,9 @@ int ORVMATH_CALL douUnionRect(double* left, double* top, double* right, double* 
                               double bRight, double bBottom) {
     const Rect a{aLeft, aTop, aRight, aBottom}, b{bLeft, bTop, bRight, bBottom};
     const Outputs out{left, top, right, bottom};
-    if (isEmpty(a))
+    if (!holdsSomething(a))
         return answer(out, b);
-    if (isEmpty(b))
+    if (!holdsSomething(b))
         return answer(out, a);
     return answer(out, {smaller(a.left, b.left), smaller(a.top, b.top), larger(a.right, b.right),
                         larger(a.bottom, b.bottom)});
@@ -84,10 +73,10 @@ int ORVMATH_CALL douUnionRect(double* left, double* top, double* right, double* 
 int ORVMATH_CALL douSubtractRect(double* left, double* top, double* right, double* bottom, double aLeft,
                                  double aTop, double aRight, double aBottom, double bLeft, double bTop,
                                  double bRight, double bBottom) {
-    const Rect a{aLeft, aTop, aRight, aBottom}, b{bLeft, bTop, bRight, bBottom};
-    const Outputs out{left, top, right, bottom};
-    if (isEmpty(a) || isEmpty(b))
-        return answer(out, a);
-    const Rect cut = common(a, b);
-    return answer(out, isEmpty(cut) ? a : trimmed(a, cut));
+    Rect a{aLeft, aTop, aRight, aBottom};
+    if (bTop <= a.top && bBottom >= a.bottom)
+        trim(a.left, a.right, bLeft, bRight);
+    else if (bLeft <= a.left && bRight >= a.right)
+        trim(a.top, a.bottom, bTop, bBottom);
+    return answer({left, top, right, bottom}, a);
 }
