@@ -144,6 +144,7 @@ ExitStatus runDraw(const Options& options) {
     for (size_t i = 0; i < layers.size(); ++i) {
         drawLayer(picture.dc(), styles, options.layers[i], layers[i], fit, progress);
     }
+    progress.show("writing", options.picture, 0, 0);
     CString reason;
     if (!picture.save(options.picture.c_str(), reason)) {
         return fail(std::string(reason), exitNoPicture);

@@ -19,8 +19,8 @@ void Progress::show(const char* what, const std::string& name, size_t done, size
     if (now < m_next) {
         return;
     }
-    const unsigned percent = all > 0 ? unsigned(100.0 * double(done) / double(all)) : 100;
-    std::fprintf(stderr, m_terminal ? "\r%s %s: %u%%   " : "%s %s: %u%%\n", what, name.c_str(), percent);
+    const std::string share = all > 0 ? ": " + std::to_string(100 * done / all) + "%" : std::string();
+    std::fprintf(stderr, m_terminal ? "\r%s %s%s   " : "%s %s%s\n", what, name.c_str(), share.c_str());
     std::fflush(stderr);
     m_next = now + std::chrono::milliseconds(500);
     m_shown = true;

@@ -15,7 +15,7 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    // Cheap enough for every figure.
+    // Cheap enough for every figure. all: 0 when the end is not known.
     void show(const char* what, const std::string& name, size_t done, size_t all);
 
 private:
