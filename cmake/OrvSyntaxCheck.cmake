@@ -7,7 +7,13 @@ set(flags --target=x86_64-w64-mingw32 -std=c++20 -fsyntax-only -Wall -Wextra -Wn
     -Wno-unused-command-line-argument -Werror -D_DEBUG -DWINVER=0x0601 -D_WIN32_WINNT=0x0601 -I${PROJECT_SOURCE_DIR}
     -I${PROJECT_SOURCE_DIR}/afx -I${PROJECT_SOURCE_DIR}/tests -isystem /usr/src/googletest/googletest/include)
 
-set(stamps)
+# clang brings no C++ library for this target: it reads the cross compiler's.
+foreach(dir IN LISTS CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES)
+  if(dir MATCHES "c\\+\\+")
+    list(APPEND flags -isystem ${dir})
+  endif()
+endforeach()
+
 function(orv_check_target target)
   get_target_property(sources ${target} SOURCES)
   get_target_property(dir ${target} SOURCE_DIR)

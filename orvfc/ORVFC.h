@@ -5,7 +5,18 @@
 
 #include <afxwin.h>
 
-#include "OrvApi.h"
+#include <orvfc/OrvApi.h>
+#include <orvfc/geometry/Extend.h>
+#include <orvfc/geometry/ScreenUnits.h>
+#include <orvfc/geometry/planentity.h>
+#include <orvfc/linestyle/LineProperBar.h>
+#include <orvfc/linestyle/LineTypeSet.h>
+#include <orvfc/linestyle/LineWidthSet.h>
+#include <orvfc/linestyle/OrvGraphic.h>
+#include <orvfc/services/DateFormat.h>
+#include <orvfc/services/DynamicArray.h>
+#include <orvfc/services/GerNer.h>
+#include <orvfc/services/SysInfo.h>
 
 // Messages by which pickers and controls notify their parents: registered under their own names when the
 // library is loaded, so that a host finds them with RegisterWindowMessage as well.

@@ -25,17 +25,17 @@ void check(TwoOperands two, OneOperand one, const Combined& row) {
 }
 
 TEST(Relations, Combining) {
-    const DOURECT a{0, 0, 10, 10}, corner{5, 6, 15, 16}, far{20, 20, 30, 30}, half{-1, -1, 4, 11};
+    const DOURECT a{0, 0, 10, 10}, corner{5, 6, 15, 16}, away{20, 20, 30, 30}, half{-1, -1, 4, 11};
     const DOURECT all{-1, -1, 11, 11}, none{9, 9, 2, 2}, point{7, 7, 7, 7};
-    for (const auto& row : {Combined{a, corner, TRUE, {5, 6, 10, 10}}, {a, far, FALSE, {0, 0, 0, 0}}})
+    for (const auto& row : {Combined{a, corner, TRUE, {5, 6, 10, 10}}, {a, away, FALSE, {0, 0, 0, 0}}})
         check(&CDouRect::IntersectRect, &CDouRect::IntersetcRect, row);
-    for (const auto& row : {Combined{a, far, TRUE, {0, 0, 30, 30}}, {point, none, FALSE, {0, 0, 0, 0}}})
+    for (const auto& row : {Combined{a, away, TRUE, {0, 0, 30, 30}}, {point, none, FALSE, {0, 0, 0, 0}}})
         check(&CDouRect::UnionRect, &CDouRect::UnionRect, row);
     for (const auto& row : {Combined{a, half, TRUE, {4, 0, 10, 10}}, {a, all, FALSE, {0, 0, 0, 0}}})
         check(&CDouRect::SubtractRect, &CDouRect::SubtractRect, row);
     EXPECT_EQ(Ltrb(CDouRect(a) & corner), Ltrb(5, 6, 10, 10));
-    EXPECT_EQ(Ltrb(CDouRect(a) & far), Ltrb(0, 0, 0, 0));
-    EXPECT_EQ(Ltrb(CDouRect(a) | far), Ltrb(0, 0, 30, 30));
+    EXPECT_EQ(Ltrb(CDouRect(a) & away), Ltrb(0, 0, 0, 0));
+    EXPECT_EQ(Ltrb(CDouRect(a) | away), Ltrb(0, 0, 30, 30));
     CDouRect self(a);
     EXPECT_TRUE(self.IntersectRect(&self, &corner)); // an operand may be the result
     EXPECT_EQ(Ltrb(self), Ltrb(5, 6, 10, 10));
