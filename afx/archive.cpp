@@ -131,8 +131,13 @@ UINT CArchive::Read(void* lpBuf, UINT nMax) {
         const UINT nWanted = nMax - nDone;
         UINT nReady = (UINT)(m_lpBufMax - m_lpBufCur);
         if (nReady == 0) {
-            if (!m_bDirectBuffer && nWanted >= (UINT)m_nBufSize) // large pieces need no copy
-                return nDone + m_pFile->Read((BYTE*)lpBuf + nDone, nWanted);
+            if (!m_bDirectBuffer && nWanted >= (UINT)m_nBufSize) { // large pieces need no copy
+                const UINT nGot = m_pFile->Read((BYTE*)lpBuf + nDone, nWanted);
+                if (nGot == 0)
+                    break;
+                nDone += nGot;
+                continue;
+            }
             if (!RefillBuffer())
                 break;
             nReady = (UINT)(m_lpBufMax - m_lpBufCur);

@@ -96,10 +96,10 @@ void CMemFile::Write(const void* lpBuf, UINT nCount) {
     if (nCount == 0)
         return;
     void* pTo = NULL;
-    if (GetBufferPtr(bufferWrite, nCount, &pTo) < nCount)
+    if (CMemFile::GetBufferPtr(bufferWrite, nCount, &pTo) < nCount)
         AfxThrowMemoryException();
     Memcpy((BYTE*)pTo, (const BYTE*)lpBuf, nCount);
-    GetBufferPtr(bufferCommit, nCount);
+    CMemFile::GetBufferPtr(bufferCommit, nCount);
 }
 
 ULONGLONG CMemFile::Seek(LONGLONG lOff, UINT nFrom) {

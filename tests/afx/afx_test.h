@@ -1,0 +1,135 @@
+#pragma once
+
+// What the tests of the value half share.
+
+#include <afx.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#if defined(_WIN32)
+#include "support/debug_events.h"
+#else
+#include <signal.h>
+#endif
+
+namespace orv::test {
+
+// The bytes of a text, zero bytes included, as gtest can print them.
+inline std::string bytesOf(const CString& str) {
+    return std::string(str.GetString(), (size_t)str.GetLength());
+}
+
+// "01 FF 41" as bytes.
+inline std::string fromHex(const std::string& hex) {
+    std::string bytes;
+    for (size_t i = 0; i + 1 < hex.size();) {
+        if (hex[i] == ' ') {
+            i++;
+            continue;
+        }
+        bytes += (char)std::stoi(hex.substr(i, 2), nullptr, 16);
+        i += 2;
+    }
+    return bytes;
+}
+
+inline std::string toHex(const std::string& bytes) {
+    std::string hex;
+    for (unsigned char b : bytes) {
+        const char* digits = "0123456789ABCDEF";
+        hex += hex.empty() ? "" : " ";
+        hex += digits[b >> 4];
+        hex += digits[b & 15];
+    }
+    return hex;
+}
+
+// Failed assertions are counted and passed over while one of these exists.
+class PassedAssertions {
+public:
+#if defined(_WIN32)
+    int count() const {
+        return m_events.assertions();
+    }
+
+private:
+    DebugEvents m_events;
+#else
+    PassedAssertions() : m_old(signal(SIGTRAP, [](int) { s_count = s_count + 1; })) {
+        s_count = 0;
+    }
+    ~PassedAssertions() {
+        signal(SIGTRAP, m_old);
+    }
+    PassedAssertions(const PassedAssertions&) = delete;
+    PassedAssertions& operator=(const PassedAssertions&) = delete;
+    int count() const {
+        return s_count;
+    }
+
+private:
+    inline static volatile sig_atomic_t s_count = 0;
+    void (*m_old)(int);
+#endif
+};
+
+// Whether f throws an EXCEPTION, which is deleted.
+template <class EXCEPTION>
+bool throws(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (EXCEPTION* e) {
+        e->Delete();
+        return true;
+    }
+    return false;
+}
+
+// A memory file that hands out no direct buffer: archives over it copy, as they do over files on disk.
+class CopiedMemFile : public CMemFile {
+public:
+    using CMemFile::CMemFile;
+    UINT GetBufferPtr(UINT nCommand, UINT nCount, void** ppStart, void** ppMax) override {
+        return nCommand == bufferCheck ? 0 : CMemFile::GetBufferPtr(nCommand, nCount, ppStart, ppMax);
+    }
+};
+
+template <class FILE = CMemFile>
+std::string contentsOf(FILE& file) {
+    std::string bytes((size_t)file.GetLength(), '\0');
+    file.SeekToBegin();
+    file.Read(bytes.data(), (UINT)bytes.size());
+    return bytes;
+}
+
+// What store writes into an archive.
+template <class FILE = CMemFile>
+std::string stored(const std::function<void(CArchive&)>& store, int nBufSize = 4096) {
+    FILE file;
+    CArchive ar(&file, CArchive::store, nBufSize);
+    store(ar);
+    ar.Close();
+    return contentsOf(file);
+}
+
+// Lets load read from the bytes. The cause of the archive exception that ends it, or none.
+template <class FILE = CMemFile>
+int loaded(const std::string& bytes, const std::function<void(CArchive&)>& load, int nBufSize = 4096) {
+    FILE file;
+    file.Write(bytes.data(), (UINT)bytes.size());
+    file.SeekToBegin();
+    CArchive ar(&file, CArchive::load, nBufSize);
+    try {
+        load(ar);
+    } catch (CArchiveException* e) {
+        const int nCause = e->m_cause;
+        e->Delete();
+        return nCause;
+    }
+    return CArchiveException::none;
+}
+
+} // namespace orv::test

@@ -1,0 +1,279 @@
+#include <afxcoll.h>
+
+#include "shapes.h"
+
+#include "afx_test.h"
+
+using orv::test::bytesOf;
+using orv::test::fromHex;
+using orv::test::loaded;
+using orv::test::stored;
+using orv::test::toHex;
+
+namespace {
+
+std::string shown(const CStringArray& texts) {
+    CString all;
+    for (INT_PTR i = 0; i < texts.GetSize(); i++)
+        all += texts[i] + ".";
+    return bytesOf(all);
+}
+
+std::string shown(const CStringList& texts) {
+    CString all;
+    for (POSITION pos = texts.GetHeadPosition(); pos != NULL;)
+        all += texts.GetNext(pos) + ".";
+    return bytesOf(all);
+}
+
+} // namespace
+
+TEST(Arrays, Edits) {
+    struct Row {
+        const char* what;
+        std::function<void(CStringArray&)> edit;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"grow with a gap", [](CStringArray& a) { a.SetAtGrow(4, "e"); }, "a.b.c..e."},
+        {"insert", [](CStringArray& a) { a.InsertAt(1, "x", 2); }, "a.x.x.b.c."},
+        {"insert past the end", [](CStringArray& a) { a.InsertAt(4, "x"); }, "a.b.c..x."},
+        {"insert one of its own", [](CStringArray& a) { a.InsertAt(0, a[2], 9); },
+         "c.c.c.c.c.c.c.c.c.a.b.c."},
+        {"add one of its own",
+         [](CStringArray& a) {
+             a.FreeExtra();
+             a.Add(a[0]);
+         },
+         "a.b.c.a."},
+        {"insert an array",
+         [](CStringArray& a) {
+             CStringArray b;
+             b.Copy(a);
+             a.InsertAt(1, &b);
+         },
+         "a.a.b.c.b.c."},
+        {"remove", [](CStringArray& a) { a.RemoveAt(0, 2); }, "c."},
+        {"append itself", [](CStringArray& a) { a.Append(a); }, "a.b.c.a.b.c."},
+        {"shrink and grow",
+         [](CStringArray& a) {
+             a.SetSize(1);
+             a.SetSize(2);
+         },
+         "a.."},
+        {"remove all", [](CStringArray& a) { a.RemoveAll(); }, ""},
+    };
+    for (const Row& row : rows) {
+        CStringArray texts;
+        texts.Add("a");
+        texts.Add("b");
+        texts.Add("c");
+        row.edit(texts);
+        EXPECT_EQ(row.expected, shown(texts)) << row.what;
+    }
+}
+
+TEST(Arrays, MistakesAreHarmless) {
+    orv::test::PassedAssertions assertions;
+    CDWordArray numbers;
+    numbers.Add(7);
+    numbers.SetAt(1, 9);
+    numbers[-1] = 9;
+    numbers.RemoveAt(1, 1);
+    numbers.RemoveAt(0, -1);
+    numbers.InsertAt(-1, 9);
+    EXPECT_EQ(0u, numbers.GetAt(1));
+    EXPECT_EQ(0u, numbers[-1]);
+    numbers.SetSize(-1);
+    EXPECT_EQ(0, numbers.GetSize());
+#if defined(_DEBUG)
+    EXPECT_EQ(8, assertions.count());
+#endif
+}
+
+TEST(Arrays, NewValuesAreZero) {
+    CWordArray words;
+    words.SetSize(3);
+    words[1] = 5;
+    words.SetSize(1);
+    words.SetSize(3);
+    EXPECT_EQ(0, words[1]);
+    CPtrArray pointers;
+    pointers.SetSize(1);
+    EXPECT_EQ(nullptr, pointers[0]);
+}
+
+TEST(Lists, Edits) {
+    struct Row {
+        const char* what;
+        std::function<void(CStringList&)> edit;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"add head", [](CStringList& l) { l.AddHead("x"); }, "x.a.b.c."},
+        {"insert before", [](CStringList& l) { l.InsertBefore(l.Find("b"), "x"); }, "a.x.b.c."},
+        {"insert before the head", [](CStringList& l) { l.InsertBefore(l.GetHeadPosition(), "x"); },
+         "x.a.b.c."},
+        {"insert after the tail", [](CStringList& l) { l.InsertAfter(l.GetTailPosition(), "x"); },
+         "a.b.c.x."},
+        {"insert before nothing", [](CStringList& l) { l.InsertBefore(NULL, "x"); }, "x.a.b.c."},
+        {"remove the middle", [](CStringList& l) { l.RemoveAt(l.FindIndex(1)); }, "a.c."},
+        {"remove both ends",
+         [](CStringList& l) {
+             l.RemoveHead();
+             l.RemoveTail();
+         },
+         "b."},
+        {"remove to nothing",
+         [](CStringList& l) {
+             while (!l.IsEmpty())
+                 l.RemoveTail();
+         },
+         ""},
+        {"add a list",
+         [](CStringList& l) {
+             CStringList m;
+             m.AddTail("x");
+             m.AddTail("y");
+             l.AddTail(&m);
+         },
+         "a.b.c.x.y."},
+        {"add a list at the head",
+         [](CStringList& l) {
+             CStringList m;
+             m.AddTail("x");
+             m.AddTail("y");
+             l.AddHead(&m);
+         },
+         "x.y.a.b.c."},
+        {"set", [](CStringList& l) { l.SetAt(l.GetTailPosition(), "x"); }, "a.b.x."},
+        {"backwards",
+         [](CStringList& l) {
+             CString all;
+             for (POSITION pos = l.GetTailPosition(); pos != NULL;)
+                 all += l.GetPrev(pos);
+             l.RemoveAll();
+             l.AddTail(all);
+         },
+         "cba."},
+        {"find from behind the first",
+         [](CStringList& l) {
+             l.AddTail("a");
+             l.SetAt(l.Find("a", l.GetHeadPosition()), "x");
+         },
+         "a.b.c.x."},
+        {"find nothing",
+         [](CStringList& l) {
+             if (l.Find("z") == NULL && l.FindIndex(3) == NULL)
+                 l.RemoveAll();
+         },
+         ""},
+    };
+    for (const Row& row : rows) {
+        CStringList texts;
+        texts.AddTail("a");
+        texts.AddTail("b");
+        texts.AddTail("c");
+        row.edit(texts);
+        EXPECT_EQ(row.expected, shown(texts)) << row.what;
+    }
+}
+
+TEST(Lists, MistakesAreHarmless) {
+    orv::test::PassedAssertions assertions;
+    CObList objects;
+    EXPECT_EQ(nullptr, objects.GetHead());
+    EXPECT_EQ(nullptr, objects.RemoveTail());
+    POSITION pos = NULL;
+    EXPECT_EQ(nullptr, objects.GetNext(pos));
+    objects.RemoveAt(NULL);
+    EXPECT_EQ(0, objects.GetCount());
+}
+
+TEST(Collections, StoredForms) {
+    CByteArray bytes;
+    bytes.Add(0x41);
+    bytes.Add(0xFF);
+    CWordArray words;
+    words.Add(0x1234);
+    CDWordArray numbers;
+    numbers.Add(0x12345678);
+    CStringArray texts;
+    texts.Add("ab");
+    texts.Add("");
+    CStringList list;
+    list.AddTail("ab");
+    list.AddTail("");
+    CObArray objects;
+    objects.Add(NULL);
+    CObList objectList;
+    objectList.AddTail(&words);
+    objectList.AddTail(&words);
+    CArray<CPoint> points;
+    points.Add(CPoint(1, -1));
+    const struct {
+        CObject* object;
+        const char* hex;
+    } rows[] = {
+        {&bytes, "02 00 41 FF"},
+        {&words, "01 00 34 12"},
+        {&numbers, "01 00 78 56 34 12"},
+        {&texts, "02 00 02 61 62 00"},
+        {&list, "02 00 02 61 62 00"},
+        {&objects, "01 00 00 00"},
+        {&objectList, "02 00 FF FF 00 00 0A 00 43 57 6F 72 64 41 72 72 61 79 01 00 34 12 02 00"},
+        {&points, "01 00 01 00 00 00 FF FF FF FF"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(row.hex, toHex(stored([&](CArchive& ar) { row.object->Serialize(ar); })));
+}
+
+TEST(Collections, LoadingReplacesArraysAndAppendsToLists) {
+    CStringArray texts;
+    texts.Add("old");
+    CStringList list;
+    list.AddTail("old");
+    loaded(fromHex("02 00 02 61 62 00 01 00 01 78"), [&](CArchive& ar) {
+        texts.Serialize(ar);
+        list.Serialize(ar);
+    });
+    EXPECT_EQ("ab..", shown(texts));
+    EXPECT_EQ("old.x.", shown(list));
+}
+
+TEST(Collections, AreAsBeforeWhenLoadingFails) {
+    CStringArray texts;
+    texts.Add("old");
+    CStringList list;
+    list.AddTail("old");
+    CDWordArray numbers;
+    numbers.Add(5);
+    CArray<CPoint> points;
+    points.Add(CPoint(1, 2));
+    const std::string cut = fromHex("03 00 02 61 62");
+    for (CObject* object : {(CObject*)&texts, (CObject*)&list, (CObject*)&numbers, (CObject*)&points})
+        EXPECT_EQ(CArchiveException::endOfFile, loaded(cut, [&](CArchive& ar) { object->Serialize(ar); }));
+    EXPECT_EQ("old.", shown(texts));
+    EXPECT_EQ("old.", shown(list));
+    EXPECT_TRUE(numbers.GetSize() == 1 && numbers[0] == 5);
+    EXPECT_TRUE(points.GetSize() == 1 && points[0] == CPoint(1, 2));
+}
+
+TEST(Collections, ObjectsReadBeforeAFailureAreTheirOwnersToFree) {
+    const std::string one = stored([](CArchive& ar) {
+        Dot dot(7);
+        ar.WriteCount(2);
+        ar << &dot;
+    });
+    CObArray objects;
+    EXPECT_EQ(CArchiveException::endOfFile, loaded(one, [&](CArchive& ar) { objects.Serialize(ar); }));
+    ASSERT_EQ(1, objects.GetSize());
+    delete objects[0];
+    EXPECT_EQ(0, Dot::s_nLive);
+}
+
+TEST(Collections, PointersCannotBeStored) {
+    CPtrArray pointers;
+    EXPECT_TRUE(orv::test::throws<CNotSupportedException>(
+        [&] { stored([&](CArchive& ar) { pointers.Serialize(ar); }); }));
+}

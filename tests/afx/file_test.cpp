@@ -1,0 +1,224 @@
+#include "afx_test.h"
+
+#include <filesystem>
+
+using orv::test::contentsOf;
+
+namespace {
+
+// A folder of its own, gone with the test.
+class FileTest : public testing::Test {
+protected:
+    void SetUp() override {
+        m_folder = std::filesystem::temp_directory_path() /
+                   (std::string("afx_test_") + testing::UnitTest::GetInstance()->current_test_info()->name());
+        std::filesystem::remove_all(m_folder);
+        ASSERT_TRUE(std::filesystem::create_directories(m_folder));
+    }
+    void TearDown() override { std::filesystem::remove_all(m_folder); }
+
+    CString path(LPCSTR name) const { return CString(m_folder.string().c_str()) + "/" + name; }
+    CString written(LPCSTR name, LPCSTR text) const {
+        CFile file(path(name), CFile::modeCreate | CFile::modeWrite);
+        file.Write(text, (UINT)strlen(text));
+        return path(name);
+    }
+    static std::string textOf(LPCTSTR name) {
+        CFile file(name, CFile::modeRead);
+        return contentsOf(file);
+    }
+
+    std::filesystem::path m_folder;
+};
+
+template <class F>
+int causeOf(F f) {
+    try {
+        f();
+    } catch (CFileException* e) {
+        const int nCause = e->m_cause;
+        e->Delete();
+        return nCause;
+    }
+    return CFileException::none;
+}
+
+} // namespace
+
+TEST_F(FileTest, Modes) {
+    const CString name = written("a.txt", "0123456789");
+    {
+        CFile file(name, CFile::modeReadWrite);
+        EXPECT_EQ(3u, file.Seek(3, CFile::begin));
+        file.Write("abc", 3);
+        EXPECT_EQ(6u, file.GetPosition());
+        EXPECT_EQ(9u, file.Seek(-1, CFile::end));
+        char ch = 0;
+        EXPECT_EQ(1u, file.Read(&ch, 5)); // fewer at the end
+        EXPECT_EQ('9', ch);
+        EXPECT_EQ(0u, file.Read(&ch, 1));
+        file.SetLength(4);
+        EXPECT_EQ(4u, file.GetPosition());
+        EXPECT_EQ(4u, file.GetLength());
+    }
+    EXPECT_EQ("012a", textOf(name));
+    {
+        CFile file(name, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
+        file.SeekToEnd();
+        file.Write("!", 1);
+    }
+    EXPECT_EQ("012a!", textOf(name));
+    CFile(name, CFile::modeCreate | CFile::modeWrite).Close();
+    EXPECT_EQ("", textOf(name));
+}
+
+TEST_F(FileTest, FailuresSayWhy) {
+    CFileException failure;
+    CFile file;
+    EXPECT_FALSE(file.Open(path("missing.txt"), CFile::modeRead, &failure));
+    EXPECT_EQ(CFileException::fileNotFound, failure.m_cause);
+    EXPECT_GT(failure.m_lOsError, 0);
+    EXPECT_EQ(orv::test::bytesOf(path("missing.txt")), orv::test::bytesOf(failure.m_strFileName));
+    EXPECT_EQ(CFileException::fileNotFound, causeOf([this] { CFile(path("missing.txt"), CFile::modeRead); }));
+    EXPECT_NE(CFileException::none,
+              causeOf([this] { CFile(path("no/such/folder"), CFile::modeCreate | 1); }));
+    EXPECT_EQ(CFileException::accessDenied, causeOf([this] { CFile(path("."), CFile::modeRead); }));
+    EXPECT_NE(CFileException::none, causeOf([this] {
+                  CFile readOnly(written("r.txt", "x"), CFile::modeRead);
+                  readOnly.Write("y", 1);
+              }));
+    EXPECT_NE(CFileException::none,
+              causeOf([this] { CFile(written("s.txt", "x"), 0).Seek(-5, CFile::begin); }));
+}
+
+TEST_F(FileTest, NamesAndStatus) {
+    const CString name = written("亅誠.tar.gz", "123");
+    CFile file(name, CFile::modeRead);
+    EXPECT_EQ("亅誠.tar.gz",
+              orv::test::bytesOf(file.GetFileName())); // the trail bytes are a bar and a backslash
+    EXPECT_EQ("亅誠.tar", orv::test::bytesOf(file.GetFileTitle()));
+    EXPECT_GT(file.GetFilePath().GetLength(), file.GetFileName().GetLength());
+    CFileStatus status;
+    ASSERT_TRUE(CFile::GetStatus(name, status));
+    EXPECT_EQ(3, status.m_size);
+    EXPECT_EQ(0, status.m_attribute & CFile::directory);
+    EXPECT_NE(0u, status.m_mtime.dwHighDateTime);
+    EXPECT_TRUE(CFile::GetStatus(path("."), status) && (status.m_attribute & CFile::directory) != 0);
+    EXPECT_FALSE(CFile::GetStatus(path("missing"), status));
+    file.Close();
+    CFile::Rename(name, path("誠.txt"));
+    EXPECT_EQ("123", textOf(path("誠.txt")));
+    written("other.txt", "");
+    EXPECT_EQ(CFileException::accessDenied,
+              causeOf([this] { CFile::Rename(path("誠.txt"), path("other.txt")); }));
+    CFile::Remove(path("誠.txt"));
+    EXPECT_EQ(CFileException::fileNotFound, causeOf([this] { CFile::Remove(path("誠.txt")); }));
+}
+
+TEST_F(FileTest, DuplicatesShareTheFile) {
+    CFile file(written("d.txt", "abc"), CFile::modeRead);
+    CFile* copy = file.Duplicate();
+    file.Close();
+    char ch = 0;
+    EXPECT_EQ(1u, copy->Read(&ch, 1));
+    EXPECT_EQ('a', ch);
+    delete copy; // and with it the handle, or the folder could not be removed
+}
+
+TEST_F(FileTest, ArchivesOverRealFiles) {
+    const CString big('x', 10000);
+    {
+        CFile file(path("big.bin"), CFile::modeCreate | CFile::modeWrite);
+        CArchive ar(&file, CArchive::store);
+        ar << (LONG)1 << big << (LONG)2;
+    }
+    CFile file(path("big.bin"), CFile::modeRead);
+    CArchive ar(&file, CArchive::load);
+    LONG first, second;
+    CString text;
+    ar >> first >> text >> second;
+    EXPECT_TRUE(first == 1 && second == 2 && text == big);
+}
+
+#if defined(_WIN32)
+TEST_F(FileTest, SharingAndLocking) {
+    const CString name = written("s.txt", "0123456789");
+    CFile file(name, CFile::modeReadWrite | CFile::shareDenyNone);
+    CFile second(name, CFile::modeReadWrite | CFile::shareDenyNone);
+    file.LockRange(0, 5);
+    char ch;
+    EXPECT_EQ(CFileException::lockViolation, causeOf([&] { second.Read(&ch, 1); }));
+    file.UnlockRange(0, 5);
+    EXPECT_EQ(1u, second.Read(&ch, 1));
+    second.Close();
+    EXPECT_EQ(CFileException::sharingViolation, causeOf([&] { CFile(name, CFile::shareExclusive); }));
+}
+#endif
+
+TEST(MemFile, GrowsSeeksAndFillsGaps) {
+    CMemFile file(16);
+    file.Write("abc", 3);
+    EXPECT_EQ(20u, file.Seek(20, CFile::begin));
+    EXPECT_EQ(3u, file.GetLength()); // a seek alone grows nothing
+    file.Write("z", 1);
+    EXPECT_EQ(std::string("abc") + std::string(17, '\0') + "z", contentsOf(file));
+    file.SetLength(2);
+    file.SetLength(5);
+    EXPECT_EQ(std::string("ab\0\0\0", 5), contentsOf(file));
+    EXPECT_EQ(CFileException::badSeek, causeOf([&] { file.Seek(-6, CFile::end); }));
+    EXPECT_EQ(CFileException::badSeek, causeOf([&] { file.Seek(LLONG_MIN, CFile::current); }));
+    EXPECT_EQ(CFileException::badSeek, causeOf([&] { file.Seek(LLONG_MAX, CFile::current); }));
+}
+
+TEST(MemFile, AttachedBuffers) {
+    BYTE buffer[] = "abcdef";
+    CMemFile fixed(buffer, 6);
+    EXPECT_EQ("abcdef", contentsOf(fixed));
+    fixed.Seek(4, CFile::begin);
+    fixed.Write("XY", 2);
+    EXPECT_STREQ("abcdXY", (char*)buffer);
+    EXPECT_TRUE(orv::test::throws<CMemoryException>([&] { fixed.Write("!", 1); }));
+    EXPECT_EQ(6u, fixed.GetLength());
+    EXPECT_EQ(buffer, fixed.Detach());
+    EXPECT_EQ(0u, fixed.GetLength());
+
+    CMemFile growing((BYTE*)malloc(4), 4, 8);
+    EXPECT_EQ(0u, growing.GetLength()); // what was in the buffer does not count
+    growing.Write("0123456789", 10);
+    BYTE* block = growing.Detach();
+    EXPECT_EQ(0, memcmp(block, "0123456789", 10));
+    free(block);
+}
+
+TEST(MemFile, DirectBuffers) {
+    CMemFile file;
+    void *start, *max;
+    EXPECT_EQ((UINT)CFile::bufferDirect, file.GetBufferPtr(CFile::bufferCheck));
+    EXPECT_EQ(10u, file.GetBufferPtr(CFile::bufferWrite, 10, &start, &max));
+    EXPECT_EQ(10, (BYTE*)max - (BYTE*)start);
+    memcpy(start, "abc", 3);
+    EXPECT_EQ(0u, file.GetLength());
+    file.GetBufferPtr(CFile::bufferCommit, 3);
+    EXPECT_EQ(3u, file.GetPosition());
+    file.SeekToBegin();
+    EXPECT_EQ(3u, file.GetBufferPtr(CFile::bufferRead, 10, &start, &max));
+    EXPECT_EQ("abc", std::string((char*)start, (char*)max));
+    EXPECT_EQ(3u, file.GetPosition());
+    EXPECT_EQ(0u, file.GetBufferPtr(CFile::bufferRead, 10, &start, &max));
+}
+
+TEST(MemFile, WritingPieceByPieceIsLinear) {
+    CMemFile file(16);
+    const void* place = NULL;
+    int nMoves = 0;
+    for (int i = 0; i < 100000; i++) {
+        file.Write("0123456789", 10);
+        void* start;
+        file.SeekToBegin();
+        file.GetBufferPtr(CFile::bufferRead, 1, &start);
+        file.SeekToEnd();
+        nMoves += start != place;
+        place = start;
+    }
+    EXPECT_LT(nMoves, 100);
+}

@@ -1,0 +1,124 @@
+#include "afx_test.h"
+
+#include <afxcoll.h>
+
+#include <random>
+
+namespace {
+
+std::string shown(const CRect& r) {
+    CString text;
+    text.Format("%d,%d,%d,%d", r.left, r.top, r.right, r.bottom);
+    return orv::test::bytesOf(text);
+}
+
+} // namespace
+
+TEST(Rect, OperationsOnOneRectangle) {
+    struct Row {
+        const char* what;
+        std::function<void(CRect&)> change;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"inflate", [](CRect& r) { r.InflateRect(1, 2); }, "9,18,31,42"},
+        {"inflate four sides", [](CRect& r) { r.InflateRect(1, 2, 3, 4); }, "9,18,33,44"},
+        {"deflate by a size", [](CRect& r) { r.DeflateRect(CSize(1, 2)); }, "11,22,29,38"},
+        {"deflate by a rectangle", [](CRect& r) { r -= CRect(1, 2, 3, 4); }, "11,22,27,36"},
+        {"offset", [](CRect& r) { r += CPoint(-1, 5); }, "9,25,29,45"},
+        {"offset back", [](CRect& r) { r -= CSize(1, 5); }, "9,15,29,35"},
+        {"move", [](CRect& r) { r.MoveToXY(0, 0); }, "0,0,20,20"},
+        {"move down", [](CRect& r) { r.MoveToY(0); }, "10,0,30,20"},
+        {"normalize",
+         [](CRect& r) {
+             r = CRect(5, 9, 1, 2);
+             r.NormalizeRect();
+         },
+         "1,2,5,9"},
+        {"corners are views",
+         [](CRect& r) {
+             r.TopLeft().x = 1;
+             r.BottomRight() += CSize(5, 5);
+         },
+         "1,20,35,45"},
+        {"scaled", [](CRect& r) { r = r.MulDiv(3, 4); }, "8,15,23,30"},
+        {"point and size", [](CRect& r) { r = CRect(CPoint(1, 2), CSize(3, 4)); }, "1,2,4,6"},
+        {"wraps like the system", [](CRect& r) { r.OffsetRect(INT_MAX, 0); },
+         "-2147483639,20,-2147483619,40"},
+    };
+    for (const Row& row : rows) {
+        CRect r(10, 20, 30, 40);
+        row.change(r);
+        EXPECT_EQ(row.expected, shown(r)) << row.what;
+    }
+}
+
+TEST(Rect, EdgesAndMiddle) {
+    const CRect r(10, 20, 30, 40);
+    EXPECT_TRUE(r.PtInRect(CPoint(10, 20)) && r.PtInRect(CPoint(29, 39)));
+    EXPECT_FALSE(r.PtInRect(CPoint(30, 39)) || r.PtInRect(CPoint(29, 40)));
+    EXPECT_TRUE(CRect(5, 5, 5, 9).IsRectEmpty() && CRect(5, 5, 4, 9).IsRectEmpty() && !r.IsRectEmpty());
+    EXPECT_FALSE(CRect(5, 5, 5, 5).IsRectNull());
+    EXPECT_TRUE(CRect(-3, -3, 0, 0).CenterPoint() == CPoint(-2, -2)); // rounded down, not toward zero
+    EXPECT_TRUE(CRect(INT_MAX - 1, 0, INT_MAX, 2).CenterPoint() == CPoint(INT_MAX - 1, 1));
+}
+
+TEST(Rect, PointsAndSizes) {
+    EXPECT_TRUE(CPoint(5, 6) - CPoint(1, 2) == CSize(4, 4));
+    EXPECT_TRUE(CPoint(5, 6) + CSize(1, 2) == CPoint(6, 8) && -CSize(1, -2) == CSize(-1, 2));
+    EXPECT_TRUE(CPoint((LPARAM)0xFFFE0003) == CPoint(3, -2)); // a mouse message left of and above its window
+    EXPECT_TRUE(CSize(1, 2) + CPoint(5, 6) == CPoint(6, 8) && CSize(1, 2) - CPoint(5, 6) == CPoint(-4, -4));
+}
+
+// Two rectangles: the results of the system, written down for the platforms that have none.
+TEST(Rect, UnionIntersectionDifference) {
+    struct Row {
+        CRect a, b;
+        const char *both, *either, *without;
+    };
+    const Row rows[] = {
+        {CRect(0, 0, 10, 10), CRect(5, 5, 20, 20), "5,5,10,10", "0,0,20,20", "0,0,10,10"},
+        {CRect(0, 0, 10, 10), CRect(10, 0, 20, 10), "0,0,0,0", "0,0,20,10", "0,0,10,10"},
+        {CRect(0, 0, 10, 10), CRect(5, -1, 20, 11), "5,0,10,10", "0,-1,20,11", "0,0,5,10"},
+        {CRect(0, 0, 10, 10), CRect(-1, -1, 11, 4), "0,0,10,4", "-1,-1,11,10", "0,4,10,10"},
+        {CRect(0, 0, 10, 10), CRect(3, 0, 7, 10), "3,0,7,10", "0,0,10,10", "0,0,10,10"},
+        {CRect(0, 0, 10, 10), CRect(-1, -1, 11, 11), "0,0,10,10", "-1,-1,11,11", "0,0,0,0"},
+        {CRect(0, 0, 10, 10), CRect(7, 7, 3, 3), "0,0,0,0", "0,0,10,10", "0,0,10,10"},
+        {CRect(1, 1, 1, 1), CRect(2, 2, 2, 2), "0,0,0,0", "0,0,0,0", "0,0,0,0"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(shown(row.a) + " / " + shown(row.b));
+        CRect r;
+        r.SubtractRect(row.a, row.b);
+        EXPECT_EQ(row.both, shown(row.a & row.b));
+        EXPECT_EQ(row.either, shown(row.a | row.b));
+        EXPECT_EQ(row.without, shown(r));
+    }
+}
+
+#if defined(_WIN32)
+TEST(Rect, AgreesWithTheSystem) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    auto coordinate = [&random] { return (int)(random() % 9) - 4; };
+    for (int i = 0; i < 20000; i++) {
+        const CRect a(coordinate(), coordinate(), coordinate(), coordinate());
+        const CRect b(coordinate(), coordinate(), coordinate(), coordinate());
+        SCOPED_TRACE(shown(a) + " / " + shown(b));
+        CRect ours, theirs;
+        BOOL result = ours.IntersectRect(a, b);
+        ASSERT_EQ(::IntersectRect(&theirs, &a, &b), result);
+        ASSERT_EQ(shown(theirs), shown(ours));
+        result = ours.UnionRect(a, b);
+        ASSERT_EQ(::UnionRect(&theirs, &a, &b), result);
+        ASSERT_EQ(shown(theirs), shown(ours));
+        result = ours.SubtractRect(a, b);
+        ASSERT_EQ(::SubtractRect(&theirs, &a, &b), result);
+        ASSERT_EQ(shown(theirs), shown(ours));
+        ASSERT_EQ(::PtInRect(&a, b.TopLeft()), a.PtInRect(b.TopLeft()));
+        const int n = (int)random(), m = (int)random(), d = coordinate();
+        ASSERT_EQ(::MulDiv(n, m, d), CRect(n, 0, 0, 0).MulDiv(m, d).left) << n << " * " << m << " / " << d;
+    }
+}
+#endif
