@@ -2,6 +2,8 @@
 
 #include "plane.h"
 
+#include <charconv>
+
 using namespace orv;
 
 double ORVMATH_CALL GetDistance(double x1, double y1, double x2, double y2) {
@@ -61,8 +63,16 @@ constexpr double exactPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                   1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int exactCount = sizeof exactPowers / sizeof *exactPowers;
 
+// Up to 308. The larger ones are read as text, since pow is off by some digits in some runtimes.
 double powerOfTen(int power) {
-    return power < exactCount ? exactPowers[power] : std::pow(10.0, power);
+    if (power < exactCount)
+        return exactPowers[power];
+    char text[] = "1e000";
+    for (int place = 4; place > 1; --place, power /= 10)
+        text[place] = static_cast<char>('0' + power % 10);
+    double value = 0;
+    std::from_chars(text, text + 5, value);
+    return value;
 }
 
 } // namespace
