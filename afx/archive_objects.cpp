@@ -66,9 +66,9 @@ void CArchive::MapObject(const CObject* pOb) {
         return;
     OrvArchiveMap& map = Map();
     if (IsStoring())
-        map.numbers.emplace(pOb, (DWORD)map.numbers.size() + 1);
+        map.number(pOb);
     else
-        map.entries.push_back({const_cast<CObject*>(pOb), NULL, 0});
+        map.add({const_cast<CObject*>(pOb), NULL, 0});
 }
 
 void CArchive::WriteTag(DWORD nIndex, BOOL bClass) {
@@ -92,7 +92,7 @@ void CArchive::WriteClass(const CRuntimeClass* pClassRef) {
     }
     *this << wNewClassTag;
     pClassRef->Store(*this);
-    map.numbers.emplace(pClassRef, (DWORD)map.numbers.size() + 1);
+    map.number(pClassRef);
 }
 
 void CArchive::WriteObject(const CObject* pOb) {
@@ -138,7 +138,7 @@ CRuntimeClass* CArchive::ReadClass(const CRuntimeClass* pClassRefRequested, UINT
             Fail(CArchiveException::badClass);
         if (plainSchema(pClass) != nSchema && (pClass->m_wSchema & VERSIONABLE_SCHEMA) == 0)
             Fail(CArchiveException::badSchema);
-        Map().entries.push_back({NULL, pClass, nSchema});
+        Map().add({NULL, pClass, nSchema});
     } else {
         const OrvArchiveMap::Entry* pEntry = Map().entry(obTag & ~dwBigClassTag);
         if (pEntry == NULL || pEntry->pClass == NULL)

@@ -46,6 +46,8 @@ FILETIME fileTime(const timespec& t) {
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
     ASSERT(lpszFileName != NULL);
     ASSERT(m_hFile == hFileNull);
+    if (m_bCloseOnDelete)
+        Abort();
     m_bCloseOnDelete = FALSE;
     m_strFileName.Empty();
     int fd = open(lpszFileName != NULL ? lpszFileName : "", posixFlags(nOpenFlags), 0666);
@@ -145,6 +147,7 @@ void CFile::Close() {
 }
 
 void CFile::Abort() {
+    m_bCloseOnDelete = FALSE;
     if (m_hFile != hFileNull)
         close(descriptor(m_hFile));
     m_hFile = hFileNull;

@@ -70,6 +70,8 @@ DWORD attributesOf(UINT nOpenFlags) {
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
     ASSERT(lpszFileName != NULL);
     ASSERT(m_hFile == hFileNull);
+    if (m_bCloseOnDelete)
+        Abort();
     m_bCloseOnDelete = FALSE;
     m_strFileName.Empty();
     const CString path = fullPath(lpszFileName != NULL ? lpszFileName : "");
@@ -162,6 +164,7 @@ void CFile::Close() {
 }
 
 void CFile::Abort() {
+    m_bCloseOnDelete = FALSE;
     if (m_hFile != hFileNull)
         ::CloseHandle(m_hFile);
     m_hFile = hFileNull;
