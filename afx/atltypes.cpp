@@ -54,7 +54,7 @@ BOOL CRect::IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) {
     const CRect a(lpRect1), b(lpRect2);
     SetRect(a.left > b.left ? a.left : b.left, a.top > b.top ? a.top : b.top,
             a.right < b.right ? a.right : b.right, a.bottom < b.bottom ? a.bottom : b.bottom);
-    if (a.IsRectEmpty() || b.IsRectEmpty() || IsRectEmpty()) {
+    if (IsRectEmpty()) {
         SetRectEmpty();
         return FALSE;
     }

@@ -87,6 +87,8 @@ TEST(HostileArchive, BrokenObjects) {
         {"object number of the next", DOT "03 00", NULL, CArchiveException::badIndex},
         {"object number names a class", DOT "01 00", NULL, CArchiveException::badIndex},
         {"class number names an object", DOT "02 80", NULL, CArchiveException::badIndex},
+        {"class number names an object, a class is asked for", DOT "02 80", RUNTIME_CLASS(Dot),
+         CArchiveException::badIndex},
         {"class number 0", "00 80", NULL, CArchiveException::badIndex},
         {"class past the last", "07 80", NULL, CArchiveException::badIndex},
         {"large class number 0", "FF 7F 00 00 00 80", NULL, CArchiveException::badIndex},
@@ -156,7 +158,7 @@ TEST(HostileArchive, LengthsAndCountsThatLie) {
         "FF FF FF FF FF FF FF FF FF FF FF FF FF FF FF 61",
         "FF FF FF FF FF FF FF 00 00 00 00 00 00 00 80 61",
         "FF FE FF FF FF FF FF FF FF 7F 61 00",
-        "FF FE FF FF FE FF 61 00",
+        "FF FE FF FF FE FF 00",
         "FF FE FF 02 61 00 62",
     };
     for (const char* length : lengths)

@@ -189,7 +189,9 @@ TEST(Archive, OlderSchemas) {
     for (const auto& row : rows) {
         Grown* grown = NULL;
         loaded(fromHex(row.hex), [&](CArchive& ar) {
+            ar.SetObjectSchema(9); // of an object around it, not asked for yet
             ar >> grown;
+            EXPECT_EQ(9u, ar.GetObjectSchema());
             EXPECT_EQ((UINT)-1, ar.GetObjectSchema());
         });
         ASSERT_NE(nullptr, grown);
@@ -258,18 +260,24 @@ TEST(Archive, Buffers) {
     LONG n;
     ar >> n;
     ar.fill(200); // moves what is left to the front
-    EXPECT_TRUE(ar.current() == own && own[199] == 199);
+    EXPECT_TRUE(ar.current() == own && own[100] == 100 && own[199] == 199);
 
     CMemFile direct;
-    direct.Write("abcd", 4);
+    for (int i = 0; i < 300; i++)
+        direct.Write(&(own[0] = (BYTE)i), 1);
     direct.SeekToBegin();
-    OpenArchive view(&direct, CArchive::load);
-    BYTE b;
-    view >> b;
-    void* start;
-    direct.SeekToBegin();
-    direct.GetBufferPtr(CFile::bufferRead, 1, &start);
-    EXPECT_EQ((BYTE*)start + 1, view.current()); // no copy
+    OpenArchive view(&direct, CArchive::load, 128);
+    view.fill(128);
+    const BYTE* start = view.current();
+    BYTE read[100];
+    view.EnsureRead(read, 100);
+    EXPECT_EQ(start + 100, view.current()); // no copy
+    view.fill(150);                         // reaches back for the 28 bytes that are left
+    EXPECT_EQ(start + 100, view.current());
+    EXPECT_EQ((BYTE)249, view.current()[149]);
+    BYTE rest[200];
+    view.EnsureRead(rest, 200);
+    EXPECT_TRUE(rest[0] == 100 && rest[199] == (BYTE)299);
     view.Abort();
 }
 

@@ -36,7 +36,7 @@ TEST(Format, WritesWhatVisualCppWrites) {
         {formatted("%d|%i|%u", -5, 6, 4294967295u), "-5|6|4294967295"},
         {formatted("%5d|%-5d|%05d|%+d", 42, 42, 42, 42), "   42|42   |00042|+42"},
         {formatted("%x %X %04x %#x %o", 255, 255, 10, 255, 8), "ff FF 000a 0xff 10"},
-        {formatted("%x", -1), "ffffffff"},
+        {formatted("%x %d %ld", -1, (LONGLONG)0x100000001, (LONGLONG)-2), "ffffffff 1 -2"},
         {formatted("%ld %lu %lx", (LONG)-2, (DWORD)4000000000u, (DWORD)0xFFFFFFFF), "-2 4000000000 ffffffff"},
         {formatted("%hd %hu %hhx", 65537, 65537, 0x1FF), "1 1 ff"},
         {formatted("%I64d %I64x %lld", (LONGLONG)-5000000000LL, (ULONGLONG)1 << 40, 7LL),

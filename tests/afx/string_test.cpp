@@ -88,6 +88,19 @@ TEST(String, EditsGiveTheTextsTheyShould) {
     }
 }
 
+TEST(String, MayBeInsertedIntoItselfWhereItLies) {
+    CString text = "abcdef";
+    text.Preallocate(100);
+    const char* place = text.GetString();
+    text.Append("x");
+    EXPECT_EQ(place, text.GetString());
+    text.Insert(1, text.GetString() + 3);
+    EXPECT_EQ("adefxbcdefx", bytesOf(text));
+    text.Preallocate(100);
+    text.SetString(text.GetString() + 8, 3);
+    EXPECT_EQ("efx", bytesOf(text));
+}
+
 TEST(String, SearchesFindWholeCharactersOnly) {
     struct Row {
         const char* what;
