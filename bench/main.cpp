@@ -9,7 +9,7 @@
 
 int main(int argc, char** argv) {
     std::string filter;
-    int rounds = 15;
+    int rounds = orv::bench::defaultRounds;
     for (int i = 1; i < argc; ++i) {
         if (strcmp(argv[i], "--rounds") == 0 && i + 1 < argc && atoi(argv[i + 1]) > 0)
             rounds = atoi(argv[++i]);

@@ -62,20 +62,17 @@ TEST(Relations, TwoBoxes) {
         {{-5, 5, 5, 15}, a, 0.1, -1, false, true},             // overlapping, but by other corners
         {{0, 0, 10.05, 10.05}, {0.05, 0.05, 10, 10}, 0.1, 1, true, true},
         {{5, 5, 5, 15}, {5, 5, 15, 5}, 0.1, 3, false, true},
-        {{8, 8, 2, 2}, a, 0.1, 1, true, true}, // taken as it stands
+        {{5, -5, 15, 5}, a, 0.1, -1, false, true},
+        {{-5, -5, 5, 5}, a, 0.1, 3, false, true},
+        {{0, 0, -1.5, 10}, {0, 0, -0.8, 10}, 1, 0, false, true}, // only exchanged sides get as far as "the
+                                                                 // same"
+        {{8, 8, 2, 2}, a, 0.1, 1, true, true},                   // taken as it stands
     };
     for (const auto& r : rows) {
         EXPECT_EQ(CDouRect(r.a).GetRalationBox(r.b, r.tol), r.relation) << Ltrb(r.a) << Ltrb(r.b) << r.tol;
         EXPECT_EQ(CDouRect(r.a).IsAllInRect(r.b, r.tol), r.allIn) << Ltrb(r.a) << Ltrb(r.b) << r.tol;
         EXPECT_EQ(CDouRect(r.a).IsPartInRect(r.b, r.tol), r.partIn) << Ltrb(r.a) << Ltrb(r.b) << r.tol;
     }
-}
-
-TEST(Relations, SameWithNegativeTolerances) {
-    // Corners outside each other's box by the exchanged sides, yet "the same" is only reached past step one.
-    const CDouRect flat(0, 0, -20, 20);
-    EXPECT_EQ(flat.GetRalationBox(flat, 30), 1);
-    EXPECT_EQ(flat.GetRalationBox(flat, 5), -1);
 }
 
 struct Line {
@@ -110,6 +107,7 @@ TEST(Relations, SegmentAndRectangle) {
     }
     CPosition out;
     EXPECT_EQ(CDouRect(10, 20, 0, 0).IntersectLine(CPosition(5, -5), CPosition(5, 50), &out), 0); // empty
+    EXPECT_EQ(r.IsLineRelationBox(CPosition(12, 5), CPosition(10.05, 5), 0.1), 1);
     EXPECT_EQ(r.IsLineRelationBox(CPosition(10.05, 5), CPosition(12, 5), 0.1),
               1); // an end within the tolerance
 }
