@@ -13,9 +13,14 @@
 #include <orvfc/linestyle/LineTypeSet.h>
 #include <orvfc/linestyle/LineWidthSet.h>
 #include <orvfc/linestyle/OrvGraphic.h>
+#include <orvfc/services/COrvVersion.h>
 #include <orvfc/services/DateFormat.h>
 #include <orvfc/services/DynamicArray.h>
 #include <orvfc/services/GerNer.h>
+#include <orvfc/services/OrvArchive.h>
+#include <orvfc/services/OrvIniReader.h>
+#include <orvfc/services/OrvRegister.h>
+#include <orvfc/services/OrvRegistry.h>
 #include <orvfc/services/SysInfo.h>
 
 // Messages by which pickers and controls notify their parents: registered under their own names when the
