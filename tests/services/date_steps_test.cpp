@@ -181,8 +181,8 @@ TEST(DateSteps, RangesCountWhatSteppingCounts) {
         }
     }
     for (double nearly : {36525.9999999, 36526.0000001, -36525.9999999, -36526.0000001}) {
-        for (double near : {nearly, floor(nearly), ceil(nearly), nearly + 1, nearly - 1})
-            expectSame(nearly, near);
+        for (double guess : {nearly, floor(nearly), ceil(nearly), nearly + 1, nearly - 1})
+            expectSame(nearly, guess);
     }
     expectSame(day(100, 1, 1), day(1000, 1, 1));
 }
