@@ -17,5 +17,6 @@ struct Sheet {
 std::span<const Sheet> sheets();
 
 void drawLineSheet(CDC& dc);
+void drawTimeScaleSheet(CDC& dc);
 
 } // namespace gallery
