@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include <orvfc/OrvApi.h>
+#include <orvfc/bitmap/cdib.h>
 #include <orvfc/geometry/Extend.h>
 #include <orvfc/geometry/ScreenUnits.h>
 #include <orvfc/geometry/planentity.h>
