@@ -21,11 +21,15 @@ if(ORV_RUNTIME_DLLS)
   install(FILES ${ORV_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/orvfc ${PROJECT_SOURCE_DIR}/orvmathfunc
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+include(OrvPublicHeaders)
+set(headers ${ORV_PUBLIC_HEADERS})
 if(ORVFC_FOUNDATION STREQUAL "own")
-  install(DIRECTORY ${PROJECT_SOURCE_DIR}/afx DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+  list(APPEND headers ${ORV_FOUNDATION_HEADERS})
 endif()
+foreach(header IN LISTS headers)
+  cmake_path(GET header PARENT_PATH folder)
+  install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+endforeach()
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ORVFCConfig.cmake.in
                               ${CMAKE_CURRENT_BINARY_DIR}/ORVFCConfig.cmake INSTALL_DESTINATION ${package_dir})

@@ -63,5 +63,22 @@ function(orv_check_folder folder)
 endfunction()
 
 orv_check_folder(${PROJECT_SOURCE_DIR})
+
+# Each public header is read alone: it can be included first.
+foreach(header IN LISTS ORV_PUBLIC_HEADERS ORV_FOUNDATION_HEADERS)
+  string(REPLACE "/" "_" name ${header})
+  set(stamp ${CMAKE_BINARY_DIR}/syntax/${name}.ok)
+  add_custom_command(
+    OUTPUT ${stamp}
+    COMMAND ${ORVFC_CLANG} ${flags} -Wno-pragma-once-outside-header -x c++ -MD -MF ${stamp}.d -MT ${stamp}
+            ${PROJECT_SOURCE_DIR}/${header}
+    COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+    DEPENDS ${PROJECT_SOURCE_DIR}/${header}
+    DEPFILE ${stamp}.d
+    COMMENT "Reading ${header} alone with clang"
+    VERBATIM)
+  set_property(GLOBAL APPEND PROPERTY ORV_SYNTAX_STAMPS ${stamp})
+endforeach()
+
 get_property(stamps GLOBAL PROPERTY ORV_SYNTAX_STAMPS)
 add_custom_target(syntax_check ALL DEPENDS ${stamps})

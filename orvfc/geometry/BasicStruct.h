@@ -6,7 +6,7 @@
 namespace orv {
 
 // Differences of coordinates below this count as none, in every comparison of the library.
-constexpr double zero = 1e-6;
+inline constexpr double zero = 1e-6;
 
 // Any integer type. Overloads that also take a pointer need it: a literal 0 fits double and pointer alike.
 template <class T>
