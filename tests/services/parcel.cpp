@@ -1,0 +1,21 @@
+#include "parcel.h"
+
+namespace orv::test {
+
+IMPLEMENT_SERIAL(Parcel, CObject, 3)
+
+int& Parcel::live() {
+    static int count;
+    return count;
+}
+
+void Parcel::Serialize(CArchive& ar) {
+    if (m_onSerialize)
+        m_onSerialize();
+    if (ar.IsStoring())
+        ar << m_nWeight;
+    else
+        ar >> m_nWeight;
+}
+
+} // namespace orv::test
