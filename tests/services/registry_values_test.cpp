@@ -1,0 +1,389 @@
+// Values of the registry stores: what the registry then holds, byte by byte, what comes back, and values that
+// others have spoilt.
+
+#include "registry_test.h"
+
+#include <functional>
+
+#include "hex.h"
+#include "parcel.h"
+
+using orv::test::bytes;
+using orv::test::hex;
+using orv::test::Parcel;
+
+namespace {
+
+template <class Store>
+class RegistryValues : public orv::test::RegistryTest {
+protected:
+    void expectStored(const COrvRegStore& store, const char* name, DWORD type, const std::string& expected) {
+        EXPECT_EQ(type, this->value(name).type) << name;
+        EXPECT_EQ(expected, hex(this->value(name).bytes)) << name;
+        EXPECT_EQ(0, store.m_Info.lResult) << name;
+        EXPECT_EQ(type, store.m_Info.dwType) << name;
+        EXPECT_EQ(this->value(name).bytes.size(), store.m_Info.dwSize) << name;
+    }
+    void expectInfo(const COrvRegStore& store, LONG result, DWORD type, DWORD size) {
+        EXPECT_EQ(result, store.m_Info.lResult);
+        EXPECT_EQ(type, store.m_Info.dwType);
+        EXPECT_EQ(size, store.m_Info.dwSize);
+    }
+};
+
+using Stores = testing::Types<COrvRegister, COrvRegistry>;
+TYPED_TEST_SUITE(RegistryValues, Stores);
+
+} // namespace
+
+TYPED_TEST(RegistryValues, Scalars) {
+    TypeParam store = this->template opened<TypeParam>();
+    ASSERT_TRUE(store.Write("int", -2));
+    this->expectStored(store, "int", REG_DWORD, "FE FF FF FF");
+    ASSERT_TRUE(store.Write("dword", 0x01020304ul));
+    this->expectStored(store, "dword", REG_DWORD, "04 03 02 01");
+    int n = 0;
+    DWORD dw = 0;
+    EXPECT_TRUE(store.Read("int", n));
+    EXPECT_EQ(-2, n);
+    EXPECT_TRUE(store.Read("dword", dw));
+    EXPECT_EQ(0x01020304u, dw);
+    this->expectInfo(store, 0, REG_DWORD, 4);
+    EXPECT_FALSE(store.Read("none", n));
+    EXPECT_EQ(-2, n);
+    this->expectInfo(store, ERROR_FILE_NOT_FOUND, store.m_Info.dwType, store.m_Info.dwSize);
+    // Longer and shorter values.
+    this->setValue("qword", REG_QWORD, std::vector<BYTE>(8, 1));
+    EXPECT_FALSE(store.Read("qword", n));
+    EXPECT_EQ(ERROR_MORE_DATA, store.m_Info.lResult);
+    EXPECT_EQ(-2, n);
+    this->setValue("word", REG_BINARY, {5, 1});
+    EXPECT_TRUE(store.Read("word", n));
+    EXPECT_EQ(0x105, n);
+}
+
+TYPED_TEST(RegistryValues, Blocks) {
+    TypeParam store = this->template opened<TypeParam>();
+    BYTE data[] = {1, 0, 0xFF};
+    ASSERT_TRUE(store.Write("block", data, 3));
+    this->expectStored(store, "block", REG_BINARY, "01 00 FF");
+    unsigned char* back = NULL;
+    unsigned size = 9;
+    ASSERT_TRUE(store.Read("block", &back, &size));
+    EXPECT_EQ("01 00 FF", hex({back, size}));
+    this->expectInfo(store, 0, REG_BINARY, 3);
+    delete[] back;
+    ASSERT_TRUE(store.Write("empty", data, 0));
+    ASSERT_TRUE(store.Read("empty", &back, &size));
+    EXPECT_EQ(0u, size);
+    delete[] back;
+    back = data;
+    EXPECT_FALSE(store.Read("none", &back, &size));
+    EXPECT_EQ(NULL, back);
+    this->expectInfo(store, ERROR_FILE_NOT_FOUND, REG_BINARY, 0);
+    // A value of another type: an assertion, and nothing.
+    const int before = this->events_.assertions();
+    store.Write("n", 5);
+    EXPECT_FALSE(store.Read("n", &back, &size));
+    EXPECT_EQ(before + 1, this->events_.assertions());
+    EXPECT_EQ(NULL, back);
+    EXPECT_EQ(0u, size);
+    this->expectInfo(store, 0, REG_DWORD, 4);
+}
+
+TYPED_TEST(RegistryValues, TextsHaveTwoHundredBytes) {
+    TypeParam store = this->template opened<TypeParam>();
+    const auto readText = [&](size_t length, CString& text) {
+        std::vector<BYTE> bytes(length, 'x');
+        bytes.push_back(0);
+        this->setValue("text", REG_SZ, bytes);
+        return store.Read("text", text);
+    };
+    CString text;
+    EXPECT_TRUE(readText(199, text));
+    EXPECT_EQ(199, text.GetLength());
+    this->expectInfo(store, 0, REG_SZ, 200);
+    text = "before";
+    EXPECT_FALSE(readText(200, text));
+    EXPECT_EQ(ERROR_MORE_DATA, store.m_Info.lResult);
+    EXPECT_TRUE(text == "before");
+    // Without a closing zero, and with bytes behind one.
+    this->setValue("open", REG_BINARY, std::vector<BYTE>(200, 'y'));
+    EXPECT_TRUE(store.Read("open", text));
+    EXPECT_EQ(200, text.GetLength());
+    this->setValue("more", REG_BINARY, {'a', 0, 'b'});
+    EXPECT_TRUE(store.Read("more", text));
+    EXPECT_TRUE(text == "a");
+}
+
+TYPED_TEST(RegistryValues, Collections) {
+    TypeParam store = this->template opened<TypeParam>();
+    CStringList list, listBack;
+    list.AddTail("ab");
+    list.AddTail("");
+    ASSERT_TRUE(store.Write("list", list));
+    this->expectStored(store, "list", REG_BINARY, "02 00 02 61 62 00");
+    ASSERT_TRUE(store.Read("list", listBack));
+    ASSERT_EQ(2, listBack.GetCount());
+    EXPECT_TRUE(listBack.GetHead() == "ab");
+    this->expectInfo(store, 0, REG_BINARY, 6);
+
+    CStringArray texts, textsBack;
+    texts.Add("中文");
+    ASSERT_TRUE(store.Write("texts", texts));
+    this->expectStored(store, "texts", REG_BINARY, "01 00 04 D6 D0 CE C4");
+    ASSERT_TRUE(store.Read("texts", textsBack));
+    EXPECT_TRUE(textsBack[0] == "中文");
+
+    CByteArray raw, rawBack;
+    raw.Add(9);
+    ASSERT_TRUE(store.Write("bytes", raw));
+    this->expectStored(store, "bytes", REG_BINARY, "01 00 09");
+    ASSERT_TRUE(store.Read("bytes", rawBack));
+    EXPECT_EQ(9, rawBack[0]);
+
+    CDWordArray numbers, numbersBack;
+    numbers.Add(0x01020304);
+    ASSERT_TRUE(store.Write("dwords", numbers));
+    this->expectStored(store, "dwords", REG_BINARY, "01 00 04 03 02 01");
+    ASSERT_TRUE(store.Read("dwords", numbersBack));
+    EXPECT_EQ(0x01020304u, numbersBack[0]);
+
+    CWordArray words, wordsBack;
+    words.Add(7);
+    words.Add(8);
+    ASSERT_TRUE(store.Write("words", words));
+    this->expectStored(store, "words", REG_BINARY, "02 00 00 00 07 00 08 00");
+    ASSERT_TRUE(store.Read("words", wordsBack));
+    ASSERT_EQ(2, wordsBack.GetSize());
+    EXPECT_EQ(0, wordsBack[0]);
+    EXPECT_EQ(7, wordsBack[1]);
+}
+
+TYPED_TEST(RegistryValues, RectanglesAndPoints) {
+    TypeParam store = this->template opened<TypeParam>();
+    CRect rect(1, -1, 2, 3), rectBack;
+    ASSERT_TRUE(store.Write("rect", rect));
+    this->expectStored(store, "rect", REG_BINARY, "01 00 00 00 FF FF FF FF 02 00 00 00 03 00 00 00");
+    ASSERT_TRUE(store.Read("rect", rectBack));
+    EXPECT_TRUE(rect == rectBack);
+
+    // Stored in 22 bytes, with an assertion; read from at most 20.
+    POINT point = {-1, 2}, pointBack = {7, 8};
+    POINT *pPoint = &point, *pBack = &pointBack;
+    const int before = this->events_.assertions();
+    ASSERT_TRUE(store.Write("point", pPoint));
+    EXPECT_EQ(before + 1, this->events_.assertions());
+    EXPECT_EQ(REG_BINARY, this->value("point").type);
+    EXPECT_EQ("05 00 FF FF FF FF 02 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00",
+              hex(this->value("point").bytes));
+    this->expectInfo(store, 0, 2, 22);
+    EXPECT_FALSE(store.Read("point", pBack));
+    this->expectInfo(store, ERROR_MORE_DATA, 2, 8);
+    EXPECT_EQ(7, pointBack.x);
+    // Two numbers do fit.
+    this->setValue("short", REG_BINARY, bytes("02 00 05 00 00 00 06 00 00 00"));
+    EXPECT_TRUE(store.Read("short", pBack));
+    this->expectInfo(store, 0, 2, 8);
+    EXPECT_EQ(5, pointBack.x);
+    EXPECT_EQ(6, pointBack.y);
+}
+
+TYPED_TEST(RegistryValues, Objects) {
+    TypeParam store = this->template opened<TypeParam>();
+    Parcel parcel;
+    parcel.m_nWeight = 0x0A0B;
+    CObList list, back;
+    list.AddTail(&parcel);
+    list.AddTail(&parcel);
+    ASSERT_TRUE(store.Write("objects", list));
+    this->expectStored(store, "objects", REG_BINARY,
+                       "02 00 FF FF 03 00 06 00 50 61 72 63 65 6C 0B 0A 00 00 02 00");
+    ASSERT_TRUE(store.Read("objects", back));
+    ASSERT_EQ(2, back.GetCount());
+    EXPECT_EQ(back.GetHead(), back.GetTail());
+    EXPECT_EQ(0x0A0B, static_cast<Parcel*>(back.GetHead())->m_nWeight);
+    delete back.GetHead();
+
+    // An object of its own has no class tag.
+    CObject& object = parcel;
+    ASSERT_TRUE(store.Write("object", object));
+    this->expectStored(store, "object", REG_BINARY, "0B 0A 00 00");
+    Parcel other;
+    CObject& otherObject = other;
+    ASSERT_TRUE(store.Read("object", otherObject));
+    EXPECT_EQ(0x0A0B, other.m_nWeight);
+}
+
+TYPED_TEST(RegistryValues, ReadOnlyStoresRefuse) {
+    TypeParam store = this->template opened<TypeParam>(1);
+    store.m_Info = {77, 88, 99};
+    CStringList list;
+    CByteArray raw;
+    CStringArray texts;
+    CDWordArray numbers;
+    CWordArray words;
+    CObList objects;
+    Parcel parcel;
+    CObject& object = parcel;
+    CRect rect;
+    POINT point = {}, *pPoint = &point;
+    BYTE byte = 0;
+    EXPECT_FALSE(store.Write("a", 1));
+    EXPECT_FALSE(store.Write("a", 1ul));
+    EXPECT_FALSE(store.Write("a", "text"));
+    EXPECT_FALSE(store.Write("a", &byte, 1));
+    EXPECT_FALSE(store.Write("a", list));
+    EXPECT_FALSE(store.Write("a", raw));
+    EXPECT_FALSE(store.Write("a", texts));
+    EXPECT_FALSE(store.Write("a", numbers));
+    EXPECT_FALSE(store.Write("a", words));
+    EXPECT_FALSE(store.Write("a", rect));
+    EXPECT_FALSE(store.Write("a", pPoint));
+    EXPECT_FALSE(store.Write("a", objects));
+    EXPECT_FALSE(store.Write("a", object));
+    EXPECT_FALSE(store.CreateKey("a"));
+    this->expectInfo(store, 77, 88, 99);
+    EXPECT_EQ(0u, this->valueCount());
+    EXPECT_FALSE(this->template opened<TypeParam>().VerifyKey("a"));
+    EXPECT_EQ(0, this->events_.assertions());
+}
+
+// From 4096 bytes on: stored with an assertion; beyond, never read again.
+TYPED_TEST(RegistryValues, LongCollections) {
+    TypeParam store = this->template opened<TypeParam>();
+    for (const int length : {4095, 4096, 4097}) {
+        CByteArray raw, back;
+        raw.SetSize(length - 2);
+        back.Add(5);
+        const int before = this->events_.assertions();
+        EXPECT_TRUE(store.Write("long", raw)) << length;
+        this->expectInfo(store, 0, REG_BINARY, length);
+        EXPECT_EQ(before + (length >= 4096 ? 1 : 0), this->events_.assertions()) << length;
+        EXPECT_EQ(length <= 4096, store.Read("long", back) != 0) << length;
+        EXPECT_EQ(length <= 4096 ? length - 2 : 1, back.GetSize()) << length;
+    }
+    EXPECT_EQ(ERROR_MORE_DATA, store.m_Info.lResult);
+}
+
+// Values of every bad kind, read as every kind of stream.
+TYPED_TEST(RegistryValues, HostileValues) {
+    TypeParam store = this->template opened<TypeParam>();
+    const std::vector<BYTE> ones(0x10000, 0xFF);
+    const struct {
+        DWORD type;
+        std::vector<BYTE> bytes;
+    } rows[] = {
+        {REG_BINARY, ones},
+        {REG_BINARY, {ones.begin(), ones.begin() + 4096}},
+        {REG_BINARY, {ones.begin(), ones.begin() + 14}},
+        {REG_BINARY, {}},
+        {REG_BINARY, {1}},
+        {REG_BINARY, {5, 0, 1, 1}},
+        {REG_BINARY, {0xFE, 0xFF, 0, 0, 0, 0, 0}},
+        {REG_SZ, {'0', '0', 0}},
+        {REG_DWORD, {0, 0, 0, 0}},
+        {REG_MULTI_SZ, {0, 0, 0, 0, 0, 0}},
+        {REG_NONE, {0, 0}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.type);
+        SCOPED_TRACE(row.bytes.size());
+        this->setValue("bad", row.type, row.bytes);
+        CStringList list;
+        CStringArray texts;
+        CByteArray raw;
+        CDWordArray numbers;
+        CWordArray words;
+        CObList objects;
+        POINT point = {7, 8}, *pPoint = &point;
+        EXPECT_FALSE(store.Read("bad", list));
+        EXPECT_FALSE(store.Read("bad", texts));
+        EXPECT_FALSE(store.Read("bad", raw));
+        EXPECT_FALSE(store.Read("bad", numbers));
+        EXPECT_FALSE(store.Read("bad", words));
+        EXPECT_FALSE(store.Read("bad", objects));
+        EXPECT_FALSE(store.Read("bad", pPoint));
+        EXPECT_TRUE(list.IsEmpty() && texts.IsEmpty() && raw.IsEmpty() && numbers.IsEmpty() &&
+                    words.IsEmpty() && objects.IsEmpty());
+        EXPECT_EQ(7, point.x);
+        CRect rect(1, 2, 3, 4);
+        if (row.bytes.size() < sizeof(RECT)) {
+            EXPECT_FALSE(store.Read("bad", rect));
+            EXPECT_TRUE(rect == CRect(1, 2, 3, 4));
+        }
+    }
+}
+
+// Nothing that an object's own code throws gets out, in either direction; two kinds are told to the debugger.
+TYPED_TEST(RegistryValues, EverythingThrownIsCaught) {
+    TypeParam store = this->template opened<TypeParam>();
+    this->setValue("object", REG_BINARY, std::vector<BYTE>(100));
+    Parcel parcel;
+    CObject& object = parcel;
+    const struct {
+        std::function<void()> thrower;
+        std::string written, read;
+    } rows[] = {
+        {[] { AfxThrowArchiveException(CArchiveException::badClass); },
+         "CArchiveException exception in CRegistry::Write ()!\n",
+         "CArchiveException exception in CRegistry::Read ()!\n"},
+        {[] { AfxThrowMemoryException(); }, "Memory exception in CRegistry::Write ()!\n",
+         "Memory exception in CRegistry::Read ()!\n"},
+        {[] { AfxThrowUserException(); }, "", ""},
+        {[] { throw 5; }, "", ""},
+    };
+    for (const auto& row : rows) {
+        parcel.m_onSerialize = row.thrower;
+        size_t before = this->events_.text().size();
+        EXPECT_FALSE(store.Write("thrown", object));
+        EXPECT_EQ(row.written, this->events_.text().substr(before));
+        before = this->events_.text().size();
+        EXPECT_FALSE(store.Read("object", object));
+        EXPECT_EQ(row.read, this->events_.text().substr(before));
+    }
+    EXPECT_EQ(1u, this->valueCount());
+}
+
+namespace {
+
+class RegistryTexts : public orv::test::RegistryTest {};
+
+} // namespace
+
+TEST_F(RegistryTexts, RegisterStoresTheText) {
+    COrvRegister store = opened<COrvRegister>();
+    ASSERT_TRUE(store.Write("text", "誠 a"));
+    EXPECT_EQ("D5 5C 20 61 00", hex(value("text").bytes));
+    EXPECT_EQ(REG_SZ, value("text").type);
+    EXPECT_EQ(1u, store.m_Info.dwType);
+    EXPECT_EQ(5u, store.m_Info.dwSize);
+    CString back;
+    EXPECT_TRUE(store.Read("text", back));
+    EXPECT_TRUE(back == "誠 a");
+    ASSERT_TRUE(store.Write("empty", ""));
+    EXPECT_TRUE(store.Read("empty", back));
+    EXPECT_TRUE(back.IsEmpty());
+}
+
+// The pointer's own bytes, and zeros: an address below 128 byte by byte keeps the code page out of the
+// picture.
+TEST_F(RegistryTexts, RegistryStoresThePointer) {
+    char* const page = static_cast<char*>(::VirtualAlloc(reinterpret_cast<void*>(0x21410000), 0x10000,
+                                                         MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
+    ASSERT_TRUE(page != NULL);
+    char* const text = page + 0x4342;
+    strcpy(text, "twelve chars");
+    COrvRegistry store = opened<COrvRegistry>();
+    ASSERT_TRUE(store.Write("text", text));
+    EXPECT_EQ(1u, store.m_Info.dwType);
+    EXPECT_EQ(13u, store.m_Info.dwSize);
+    EXPECT_EQ(REG_SZ, value("text").type);
+    EXPECT_EQ("42 43 41 21 00 00 00 00 00 00 00 00 00", hex(value("text").bytes));
+    // Shorter than the pointer: not closed by the system either.
+    strcpy(text, "ab");
+    ASSERT_TRUE(store.Write("short", text));
+    EXPECT_EQ(3u, store.m_Info.dwSize);
+    EXPECT_EQ("42 43 41", hex(value("short").bytes));
+    ::VirtualFree(page, 0, MEM_RELEASE);
+}
