@@ -22,7 +22,7 @@ ExitStatus runTour(const Options& options) {
         return exitNoPicture;
     }
     for (const Sheet& sheet : sheets()) {
-        const CString name = folder + "/" + sheet.name + ".png";
+        const CString name = folder + "\\" + sheet.name + ".png";
         CString message = name + ": not enough memory for the picture";
         Picture picture;
         bool saved = false;

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 using gallery::parseWkt;
 using gallery::WktError;
 using gallery::WktLines;
