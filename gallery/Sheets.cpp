@@ -6,6 +6,7 @@ std::span<const Sheet> sheets() {
     static const Sheet all[] = {
         {"lines", 1280, 1160, drawLineSheet},
         {"time-scales", 1280, 1300, drawTimeScaleSheet},
+        {"about", 1280, 760, drawAboutSheet},
     };
     return all;
 }

@@ -18,5 +18,6 @@ std::span<const Sheet> sheets();
 
 void drawLineSheet(CDC& dc);
 void drawTimeScaleSheet(CDC& dc);
+void drawAboutSheet(CDC& dc);
 
 } // namespace gallery
