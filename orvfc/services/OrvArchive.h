@@ -30,12 +30,15 @@ public:
     // Position in the file of the next byte to be read or written. Flushes: the buffer is empty afterwards.
     ULONGLONG GetRealPos();
 
-    // The next three move reading; storing archives assert and stay. Leaving the file at its front throws;
-    // past its end, the next reading does. By n bytes from the next one, also backwards.
+    // Leaving the file at its front throws; past its end, the next reading does.
+    //
+    // By n bytes from the next one, also backwards. Storing: an assertion, and nothing.
     void SkipPos(LONG n);
     // By n bytes from the next one; the buffer starts there, and is filled unless the file ends there.
+    // Storing: an assertion, and nothing.
     void SeekCurrentPos(DWORD n);
-    // To a position in the file, as a fresh archive: the objects read so far are forgotten. Also for storing.
+    // To a position in the file, as a fresh archive in either direction: its objects and classes are
+    // forgotten.
     void SkipPosBegin(LONG pos);
 
     void Dump(CDumpContext& dc) const;

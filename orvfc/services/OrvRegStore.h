@@ -9,6 +9,9 @@
 // Every operation answers non-zero for success and 0 for failure, throws nothing, and leaves the outcome in
 // m_Info. Null names, null data and a missing key are the caller's bugs: assertion, then 0. What a value
 // holds is not trusted: a damaged one answers 0 and leaves the argument as it was.
+//
+// Copies share one key handle, and the first to be destroyed closes it for all: set m_hKey of the others to 0
+// before.
 class ORVFC_API COrvRegStore {
 public:
     // Outcome of the last registry call.
@@ -94,7 +97,6 @@ public:
 
 protected:
     COrvRegStore(HKEY hRoot, int bReadOnly);
-    // Copies share one handle, and the first to be destroyed closes it: set m_hKey of the other to 0 before.
     COrvRegStore(const COrvRegStore&) = default;
     COrvRegStore& operator=(const COrvRegStore&) = default;
 

@@ -58,6 +58,19 @@ TEST_F(RegistryKeys, MissingKeys) {
     EXPECT_TRUE(opened<COrvRegister>().VerifyKey("below"));
 }
 
+// Second bytes of characters that look like a backslash or a bar part nothing.
+TEST_F(RegistryKeys, ChineseNames) {
+    COrvRegister store(0, 0);
+    ASSERT_TRUE(store.Open(path("\\誠亅\\诚").c_str(), TRUE));
+    EXPECT_TRUE(store.Write("亅誠", 5));
+    EXPECT_TRUE(store.VerifyValue("亅誠"));
+    store.Close();
+    EXPECT_TRUE(opened<COrvRegister>().VerifyKey("誠亅\\诚"));
+    EXPECT_FALSE(store.DeleteKey(path("\\誠亅").c_str(), 0));
+    EXPECT_TRUE(store.DeleteKey(path("\\誠亅\\诚").c_str(), 0));
+    EXPECT_TRUE(store.DeleteKey(path("\\誠亅").c_str(), 0));
+}
+
 // A failed opening leaves 0; the older class goes on with it, the younger one returns to where it was.
 TEST_F(RegistryKeys, ClassesDifferInAFailedOpen) {
     COrvRegistry older = opened<COrvRegistry>();

@@ -28,7 +28,7 @@ protected:
         return file;
     }
     COrvVersion versionOf(const std::vector<BYTE>& block) const {
-        return COrvVersion(moduleWith("module.dll", block));
+        return COrvVersion(moduleWith("誠.dll", block));
     }
 
     orv::test::ScratchFolder folder_;
