@@ -88,7 +88,8 @@ int Suite::run(const std::string& filter, int rounds, double sampleSeconds) cons
             group = row.group;
             printf("\n%-46s %10s %10s %7s %6s\n", group.c_str(), "subject", "reference", "ratio", "aim");
         }
-        const Result r = measure(row, rounds, sampleSeconds);
+        const int rowRounds = row.mostRounds > 0 ? std::min(row.mostRounds, rounds) : rounds;
+        const Result r = measure(row, rowRounds, sampleSeconds);
         const bool isBeyond = r.ratio > row.aim;
         printf("  %-44s %10s %10s %7.3f %6.2f%s\n", row.name.c_str(), timeText(r.subject).c_str(),
                timeText(r.reference).c_str(), r.ratio, row.aim, isBeyond ? "  BEYOND" : "");

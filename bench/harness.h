@@ -30,6 +30,7 @@ struct Row {
     double aim; // the ratio subject / reference is to be at most this
     Work subject;
     Work reference;
+    int mostRounds = 0; // fewer than the run's, for work that takes seconds; 0 is no limit
 };
 
 // Many short rounds: a neighbour's burst of work spoils a few of them, not the median.

@@ -75,7 +75,7 @@ TEST(SysInfo, WheelLines) {
         {REG_SZ, std::string("-1", 3), 0xFFFFFFFF}, // a page
         {REG_SZ, "99999999999999999999", 0xFFFFFFFF},
         {REG_SZ, std::string("0", 2), 0},
-        {REG_SZ, std::string(126, ' ') + "5", 5},     // fills the buffer, with the zero that the system adds
+        {REG_SZ, std::string(125, ' ') + "5", 5},     // all but fills the buffer
         {REG_SZ, std::string(300, '5'), 3},           // longer than it
         {REG_DWORD, std::string("\x09\0\0\0", 4), 3}, // no text
     };
