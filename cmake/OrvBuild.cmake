@@ -28,9 +28,9 @@ else()
     orv_options INTERFACE
     -Wall -Wextra -Wno-unknown-pragmas
     # A CString handed through "..." compiles silently and prints garbage.
-    $<$<COMPILE_LANGUAGE:CXX>:-Werror=conditionally-supported>
+    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Werror=conditionally-supported>
     # Narrow literals are code page 936 text. Plain GBK cannot encode the C++ library's own headers.
-    $<$<CXX_COMPILER_ID:GNU>:$<$<COMPILE_LANGUAGE:CXX>:-fexec-charset=GB18030>>)
+    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fexec-charset=GB18030>)
 endif()
 
 if(WIN32 AND MINGW)

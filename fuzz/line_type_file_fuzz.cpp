@@ -26,7 +26,7 @@ bool load(T& object, const uint8_t* data, size_t size) {
 }
 
 void walk(COrvDrawBasicDash& dash) {
-    const POINT points[] = {{0, 0}, {50, 10}, {50, 10}, {-7, 60}, {1000000, 0}, {1000000, 9}};
+    const POINT points[] = {{0, 0}, {50, 10}, {50, 10}, {-7, 60}, {3000, 0}, {3000, 9}};
     const BYTE types[] = {PT_MOVETO, PT_LINETO, PT_LINETO, BYTE(PT_LINETO) | BYTE(PT_CLOSEFIGURE),
                           PT_MOVETO, PT_LINETO};
     dash.m_hDC = reinterpret_cast<HDC>(1);
