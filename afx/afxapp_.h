@@ -2,8 +2,9 @@
 
 // The application object and what hangs on it.
 
-#include "afxcmdtarget_.h"
+#include "afxwnd_.h"
 
+// The thread with its message pump.
 class ORVAFX_API CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
 
@@ -11,11 +12,26 @@ public:
     CWinThread();
     ~CWinThread() override = default;
 
-    CWnd* m_pMainWnd = nullptr;
+    CWnd* m_pMainWnd = nullptr; // its destruction ends the program
     DWORD m_nThreadID;
+    MSG m_msgCur = {};
 
     virtual BOOL InitInstance() { return FALSE; }
-    virtual int ExitInstance() { return 0; }
+    // Pumps until WM_QUIT, and answers ExitInstance.
+    virtual int Run();
+    virtual int ExitInstance() { return static_cast<int>(m_msgCur.wParam); }
+    // FALSE after WM_QUIT.
+    virtual BOOL PumpMessage();
+    // TRUE: the message is done with. The base asks every window from the addressed one up, then the main
+    // window.
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    // Messages that start no new idle time: the mouse at rest, paints, caret blinks.
+    virtual BOOL IsIdleMessage(MSG* pMsg);
+    // lCount: how many times in a row. TRUE: call again. The base empties the maps of temporary objects.
+    virtual BOOL OnIdle(LONG lCount);
+    // An exception that left a handler; answers the message's result. The caller deletes the exception.
+    virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
+    virtual CWnd* GetMainWnd() { return m_pMainWnd; }
 };
 
 // The one application object of a program, constructed as a global of the host. A second one is a bug
@@ -34,6 +50,10 @@ public:
     LPCTSTR m_pszAppName = NULL;
     LPCTSTR m_pszExeName = NULL;
 
+    BOOL InitInstance() override { return TRUE; }
+    // For the menu command ID_APP_EXIT: closes the main window.
+    afx_msg void OnAppExit();
+
     // Every message box of the library and of AfxMessageBox comes through here: override it to show it
     // elsewhere. nIDPrompt is the help context. Returns the button pressed (IDOK, ...), 0 when there is no
     // memory.
@@ -44,6 +64,11 @@ public:
     HICON LoadIcon(UINT nIDResource) const;
     HCURSOR LoadCursor(UINT nIDResource) const;
     HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const { return ::LoadCursorA(NULL, lpszCursorName); }
+
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const { return ::LoadIconA(NULL, lpszIconName); }
+
+protected:
+    DECLARE_MESSAGE_MAP()
 
 private:
     friend ORVAFX_API BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
@@ -62,6 +87,16 @@ ORVAFX_API CWnd* AFXAPI AfxGetMainWnd();
 // Starts the foundation; a console host calls it first of all. TRUE on success, also when called again.
 ORVAFX_API BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
                                   int nCmdShow);
+
+// What WinMain does: starts the foundation, InitInstance, Run (when InitInstance says FALSE: ends without it,
+// destroying the main window). The program's exit status. A program that supplies only its application object
+// gets a WinMain that calls this.
+ORVAFX_API int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                                 int nCmdShow);
+ORVAFX_API void AFXAPI AfxPostQuitMessage(int nExitCode);
+// One message of a loop of one's own. FALSE after WM_QUIT.
+ORVAFX_API BOOL AFXAPI AfxPumpMessage();
+ORVAFX_API BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg);
 
 // A type without icon bits gets the icon that fits its buttons.
 ORVAFX_API int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);

@@ -1,5 +1,6 @@
 #pragma once
 
-// Extension modules, as <afxext.h> offers them to hosts.
+// Extension modules and property sheets, as <afxext.h> offers them to hosts.
 
 #include <afxwin.h>
+#include <afxdlgs.h>

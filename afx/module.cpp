@@ -1,7 +1,6 @@
 // The module chain and what is looked for along it; the DLL's own entry point.
 
-#include "afxwin.h"
-#include "threadstate.h"
+#include "wndcreate.h"
 
 namespace {
 
@@ -70,6 +69,16 @@ void setInstanceHandle(HINSTANCE instance) {
     instanceHandle = instance;
 }
 
+bool isModuleOfChain(HINSTANCE module) {
+    if (module == AfxGetInstanceHandle())
+        return true;
+    ChainLock guard;
+    for (const CDynLinkLibrary* library = firstLibrary; library; library = library->m_pNextDLL)
+        if (library->m_hModule == module)
+            return true;
+    return false;
+}
+
 } // namespace orvafx
 
 BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
@@ -97,6 +106,8 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
         delete dying;
     }
     state.bInitialized = FALSE;
+    orvafx::forgetMessageMaps();
+    orvafx::unregisterClasses(state.hModule);
 }
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
@@ -171,8 +182,10 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID reserved) {
         break;
     case DLL_PROCESS_DETACH:
         // At the end of the process the other modules are gone and the system takes the memory back.
-        if (!reserved)
+        if (!reserved) {
+            orvafx::unregisterClasses(NULL);
             orvafx::freeThreadSlot();
+        }
         break;
     }
     return TRUE;

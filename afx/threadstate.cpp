@@ -1,5 +1,6 @@
-#include "afxwin.h"
 #include "threadstate.h"
+
+#include "afxcmn.h"
 
 namespace orvafx {
 
@@ -21,12 +22,17 @@ void releaseWindow(CObject* object) {
     static_cast<CWnd*>(object)->m_hWnd = NULL;
 }
 
-} // namespace
-
-CObject* HandleMap::find(const Map& map, void* handle) {
-    auto it = map.find(handle);
-    return it == map.end() ? nullptr : it->second;
+void releaseMenu(CObject* object) {
+    static_cast<CMenu*>(object)->m_hMenu = NULL;
 }
+
+void releaseImageList(CObject* object) {
+    static_cast<CImageList*>(object)->m_hImageList = NULL;
+}
+
+LONG volatile mapGeneration = 0;
+
+} // namespace
 
 void HandleMap::setPermanent(void* handle, CObject* object) {
     // The handle may be known through an earlier temporary object: from now on there is one truth.
@@ -44,23 +50,58 @@ void HandleMap::removeTemporary(void* handle) {
     auto it = temporary_.find(handle);
     if (it == temporary_.end())
         return;
-    CObject* object = it->second;
+    CObject* object = it->second.object;
     temporary_.erase(it);
     release_(object);
     delete object;
 }
 
-void HandleMap::deleteTemporary() {
-    Map dying;
-    dying.swap(temporary_);
-    for (auto& entry : dying) {
-        release_(entry.second);
-        delete entry.second;
+void HandleMap::setTemporary(void* handle, CObject* object) {
+    temporary_[handle] = {object, ++made_};
+}
+
+void HandleMap::deleteTemporary(unsigned since) {
+    for (auto it = temporary_.begin(); it != temporary_.end();) {
+        // The counter may wrap: what matters is which side of the mark a number lies on.
+        if (since != 0 && static_cast<int>(it->second.number - since) <= 0) {
+            ++it;
+            continue;
+        }
+        CObject* object = it->second.object;
+        it = temporary_.erase(it);
+        release_(object);
+        delete object;
     }
 }
 
+EntryCache::Slot& EntryCache::slot(const AFX_MSGMAP* map, UINT message) {
+    if (generation_ != mapGeneration) {
+        memset(slots_, 0, sizeof slots_);
+        generation_ = mapGeneration;
+    }
+    return slots_[((reinterpret_cast<UINT_PTR>(map) >> 4) + message * 7) % 512];
+}
+
+void forgetMessageMaps() {
+    ::InterlockedIncrement(&mapGeneration);
+}
+
 ThreadState::ThreadState()
-    : gdiObjects(releaseGdiObject), deviceContexts(releaseDeviceContext), windows(releaseWindow) {}
+    : gdiObjects(releaseGdiObject), deviceContexts(releaseDeviceContext), windows(releaseWindow),
+      menus(releaseMenu), imageLists(releaseImageList) {}
+
+ThreadState::Marks ThreadState::marks() const {
+    return {gdiObjects.countMade(), deviceContexts.countMade(), windows.countMade(), menus.countMade(),
+            imageLists.countMade()};
+}
+
+void ThreadState::deleteTemporary(const Marks& since) {
+    gdiObjects.deleteTemporary(since.gdiObjects);
+    deviceContexts.deleteTemporary(since.deviceContexts);
+    windows.deleteTemporary(since.windows);
+    menus.deleteTemporary(since.menus);
+    imageLists.deleteTemporary(since.imageLists);
+}
 
 ThreadState* existingThreadState() {
     return slot == TLS_OUT_OF_INDEXES ? nullptr : static_cast<ThreadState*>(::TlsGetValue(slot));
@@ -108,10 +149,7 @@ BOOL AFXAPI AfxUnlockTempMaps(BOOL bDeleteTemps) {
     orvafx::ThreadState& state = orvafx::threadState();
     if (state.tempLocks > 0 && --state.tempLocks > 0)
         return FALSE;
-    if (bDeleteTemps) {
-        state.gdiObjects.deleteTemporary();
-        state.deviceContexts.deleteTemporary();
-        state.windows.deleteTemporary();
-    }
+    if (bDeleteTemps)
+        state.deleteTemporary();
     return TRUE;
 }

@@ -1,8 +1,9 @@
 #pragma once
 
-// What the foundation keeps per thread: the handle maps. Internal to orvafx.dll.
+// What the foundation keeps per thread: handle maps, the message in hand, the window being made. Internal to
+// orvafx.dll.
 
-#include <afx.h>
+#include "afxwin.h"
 
 #include <unordered_map>
 
@@ -18,22 +19,56 @@ public:
     HandleMap(const HandleMap&) = delete;
     HandleMap& operator=(const HandleMap&) = delete;
 
-    CObject* permanent(void* handle) const { return find(permanent_, handle); }
-    CObject* temporary(void* handle) const { return find(temporary_, handle); }
+    CObject* permanent(void* handle) const {
+        auto it = permanent_.find(handle);
+        return it == permanent_.end() ? nullptr : it->second;
+    }
+    CObject* temporary(void* handle) const {
+        auto it = temporary_.find(handle);
+        return it == temporary_.end() ? nullptr : it->second.object;
+    }
     void setPermanent(void* handle, CObject* object);
     void removePermanent(void* handle, const CObject* object);
-    void setTemporary(void* handle, CObject* object) { temporary_[handle] = object; }
+    void setTemporary(void* handle, CObject* object);
     void removeTemporary(void* handle);
-    void deleteTemporary();
+    // Only those made since a mark that countMade gave; all by default.
+    void deleteTemporary(unsigned since = 0);
+    unsigned countMade() const { return made_; }
+    size_t permanentCount() const { return permanent_.size(); }
+    size_t temporaryCount() const { return temporary_.size(); }
 
 private:
     using Map = std::unordered_map<void*, CObject*>;
-    static CObject* find(const Map& map, void* handle);
+    struct Temporary {
+        CObject* object;
+        unsigned number; // in the order of making
+    };
 
     Map permanent_;
-    Map temporary_;
+    std::unordered_map<void*, Temporary> temporary_;
+    unsigned made_ = 0;
     Release release_;
 };
+
+// The entry that a class's map has for a message, remembered: most messages have none, and every base is
+// asked.
+class EntryCache {
+public:
+    struct Slot {
+        const AFX_MSGMAP* map;
+        UINT message;
+        const AFX_MSGMAP_ENTRY* entry;
+    };
+    // The slot for the pair; it is filled when its map and message are these. Emptied when a module is
+    // unloaded.
+    Slot& slot(const AFX_MSGMAP* map, UINT message);
+
+private:
+    Slot slots_[512] = {};
+    LONG generation_ = 0;
+};
+// From now on no thread trusts what it remembers of message maps.
+void forgetMessageMaps();
 
 struct ThreadState {
     ThreadState();
@@ -41,7 +76,26 @@ struct ThreadState {
     HandleMap gdiObjects;
     HandleMap deviceContexts;
     HandleMap windows;
+    HandleMap menus;
+    HandleMap imageLists;
     int tempLocks = 0;
+
+    MSG pumped = {}; // the last one of a loop without a thread object
+    MSG lastMouseMessage = {};
+    MSG message = {};    // the message in hand
+    CWnd* making = NULL; // gets the next window that is made
+    HHOOK makingHook = NULL;
+    HWND lockedOut = NULL; // its controls' notifications are not heard: an exchange of data is going on
+    HWND toolTip = NULL;   // of EnableToolTips
+    HWND toolTipFor = NULL;
+    EntryCache entries;
+
+    struct Marks {
+        unsigned gdiObjects = 0, deviceContexts = 0, windows = 0, menus = 0, imageLists = 0;
+    };
+    Marks marks() const;
+    void deleteTemporary(const Marks& since);
+    void deleteTemporary() { deleteTemporary(Marks{}); }
 };
 
 // This thread's state, made at its first use and freed when the thread or the DLL ends.

@@ -4,8 +4,11 @@ namespace orvafx {
 void setInstanceHandle(HINSTANCE instance);
 }
 
-IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+BEGIN_MESSAGE_MAP(CWinApp, CCmdTarget)
+ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+END_MESSAGE_MAP()
 
 namespace {
 
@@ -37,8 +40,6 @@ UINT withIcon(UINT type) {
 }
 
 } // namespace
-
-CWinThread::CWinThread() : m_nThreadID(::GetCurrentThreadId()) {}
 
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName) {
     m_pszAppName = lpszAppName ? static_cast<LPCTSTR>(m_strAppName) : NULL;
@@ -73,6 +74,11 @@ int CWinApp::ShowAppMessageBox(CWinApp* pApp, LPCTSTR lpszPrompt, UINT nType, UI
     return ::MessageBoxA(owner, lpszPrompt, title, withIcon(nType) | (owner ? 0 : MB_TASKMODAL));
 }
 
+void CWinApp::OnAppExit() {
+    if (m_pMainWnd)
+        m_pMainWnd->SendMessage(WM_CLOSE);
+}
+
 HICON CWinApp::LoadIcon(UINT nIDResource) const {
     LPCTSTR name = MAKEINTRESOURCEA(nIDResource);
     return ::LoadIconA(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
@@ -98,6 +104,9 @@ CWnd* AFXAPI AfxGetMainWnd() {
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
     orvafx::setInstanceHandle(hInstance);
+    // Dialog templates may name any of the common controls.
+    INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+    ::InitCommonControlsEx(&controls);
     if (theApp) {
         theApp->m_hInstance = hInstance;
         theApp->m_lpCmdLine = lpCmdLine;
@@ -105,6 +114,29 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCm
         theApp->TakeNames();
     }
     return TRUE;
+}
+
+int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
+    if (!theApp || !AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow))
+        return -1;
+    int status;
+    if (theApp->InitInstance()) {
+        status = theApp->Run();
+    } else {
+        if (theApp->m_pMainWnd) {
+            TRACE("AfxWinMain: InitInstance says no, its main window goes\n");
+            theApp->m_pMainWnd->DestroyWindow();
+        }
+        status = theApp->ExitInstance();
+    }
+    AfxUnlockTempMaps(TRUE);
+    return status;
+}
+
+// For programs that bring only their application object.
+extern "C" __declspec(dllexport) int WINAPI
+    WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow) {
+    return AfxWinMain(hInstance, hPrevInstance, lpCmdLine, nCmdShow);
 }
 
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {

@@ -1,0 +1,429 @@
+#include "wndcreate.h"
+
+#include "afxdlgs.h"
+#include "afxcmn.h"
+
+#include <string>
+#include <vector>
+
+IMPLEMENT_DYNCREATE(CPropertyPage, CDialog)
+IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
+
+BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
+ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+namespace {
+
+std::wstring wide(LPCSTR text) {
+    const int length = ::MultiByteToWideChar(CP_ACP, 0, text, -1, NULL, 0);
+    std::wstring result(length > 0 ? length : 1, L'\0');
+    ::MultiByteToWideChar(CP_ACP, 0, text, -1, result.data(), length);
+    result.pop_back();
+    return result;
+}
+
+// The page's window is the next one that the system makes behind this call.
+UINT CALLBACK pageCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
+    if (message == PSPCB_CREATE)
+        orvafx::hookNextDialog(reinterpret_cast<CPropertyPage*>(page->lParam));
+    return 1;
+}
+
+} // namespace
+
+// What the sheet does with its pages.
+struct OrvPageAccess {
+    // The system takes the wide form, in which pages get typed characters of every kind.
+    static HPROPSHEETPAGE handle(CPropertyPage& page) {
+        HINSTANCE module = NULL;
+        LPCDLGTEMPLATE dialogTemplate = page.m_lpDialogTemplate;
+        LPCTSTR name = page.m_lpszTemplateName;
+        if (!dialogTemplate && name) {
+            module = AfxFindResourceHandle(name, RT_DIALOG);
+            HRSRC resource = ::FindResourceA(module, name, RT_DIALOG);
+            HGLOBAL loaded = resource ? ::LoadResource(module, resource) : NULL;
+            dialogTemplate = loaded ? static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)) : NULL;
+        }
+        if (!dialogTemplate) {
+            TRACE("CPropertySheet: a page has no template\n");
+            return NULL;
+        }
+        const PROPSHEETPAGEA& psp = page.m_psp;
+        PROPSHEETPAGEW w = {};
+        std::wstring title;
+        w.dwSize = sizeof w;
+        w.dwFlags = psp.dwFlags | PSP_DLGINDIRECT | PSP_USECALLBACK;
+        w.hInstance = module ? module : AfxGetResourceHandle();
+        w.pResource = dialogTemplate;
+        w.hIcon = psp.hIcon;
+        if (psp.dwFlags & PSP_USETITLE) {
+            title = wide(psp.pszTitle ? psp.pszTitle : static_cast<LPCTSTR>(page.m_strCaption));
+            w.pszTitle = title.c_str();
+        }
+        w.pfnDlgProc = AfxDlgProc;
+        w.lParam = reinterpret_cast<LPARAM>(&page);
+        w.pfnCallback = pageCallback;
+        return ::CreatePropertySheetPageW(&w);
+    }
+};
+
+// --- the page
+
+CPropertyPage::CPropertyPage() : CPropertyPage(static_cast<LPCTSTR>(NULL)) {}
+
+CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, DWORD dwSize)
+    : CPropertyPage(MAKEINTRESOURCEA(nIDTemplate), nIDCaption, dwSize) {}
+
+CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, DWORD) {
+    Construct(lpszTemplateName, nIDCaption);
+}
+
+CPropertyPage::~CPropertyPage() = default;
+
+void CPropertyPage::Construct(UINT nIDTemplate, UINT nIDCaption) {
+    Construct(MAKEINTRESOURCEA(nIDTemplate), nIDCaption);
+}
+
+void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
+    memset(&m_psp, 0, sizeof m_psp);
+    m_psp.dwSize = sizeof m_psp;
+    m_lpszTemplateName = lpszTemplateName;
+    if (nIDCaption && m_strCaption.LoadString(nIDCaption)) {
+        m_psp.pszTitle = m_strCaption;
+        m_psp.dwFlags |= PSP_USETITLE;
+    }
+}
+
+CPropertySheet* CPropertyPage::GetParentSheet() {
+    for (HWND parent = m_hWnd ? ::GetParent(m_hWnd) : NULL; parent; parent = ::GetParent(parent))
+        if (CPropertySheet* sheet = DYNAMIC_DOWNCAST(CPropertySheet, FromHandlePermanent(parent)))
+            return sheet;
+    return NULL;
+}
+
+void CPropertyPage::CancelToClose() {
+    if (CPropertySheet* sheet = GetParentSheet())
+        sheet->PostMessage(PSM_CANCELTOCLOSE);
+}
+
+void CPropertyPage::SetModified(BOOL bChanged) {
+    if (CPropertySheet* sheet = GetParentSheet())
+        sheet->SendMessage(bChanged ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
+}
+
+LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam) {
+    CPropertySheet* sheet = GetParentSheet();
+    return sheet ? sheet->SendMessage(PSM_QUERYSIBLINGS, wParam, lParam) : 0;
+}
+
+BOOL CPropertyPage::OnSetActive() {
+    // The first time OnInitDialog has just done it; the same values again do no harm.
+    return UpdateData(FALSE);
+}
+
+BOOL CPropertyPage::OnKillActive() {
+    return UpdateData(TRUE);
+}
+
+BOOL CPropertyPage::OnApply() {
+    OnOK();
+    return TRUE;
+}
+
+void CPropertyPage::PostNcDestroy() {}
+
+BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
+    // The keys belong to the sheet, which is asked next.
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+BOOL CPropertyPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    return CDialog::OnCommand(wParam, lParam);
+}
+
+BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CDialog::OnNotify(wParam, lParam, pResult))
+        return TRUE;
+    auto* header = reinterpret_cast<NMHDR*>(lParam);
+    // The sheet's own notifications, not those of a nested sheet's.
+    if (header->hwndFrom != ::GetParent(m_hWnd))
+        return FALSE;
+    switch (header->code) {
+    case PSN_SETACTIVE:
+        *pResult = OnSetActive() ? 0 : -1;
+        break;
+    case PSN_KILLACTIVE:
+        *pResult = !OnKillActive();
+        break;
+    case PSN_APPLY:
+        *pResult = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
+        break;
+    case PSN_RESET:
+        OnReset();
+        break;
+    case PSN_QUERYCANCEL:
+        *pResult = !OnQueryCancel();
+        break;
+    case PSN_WIZBACK:
+        *pResult = OnWizardBack();
+        break;
+    case PSN_WIZNEXT:
+        *pResult = OnWizardNext();
+        break;
+    case PSN_WIZFINISH:
+        *pResult = !OnWizardFinish();
+        break;
+    default:
+        return FALSE;
+    }
+    return TRUE;
+}
+
+// --- the sheet
+
+CPropertySheet::CPropertySheet() {
+    CommonConstruct(NULL, 0);
+}
+
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage) {
+    m_strCaption.LoadString(nIDCaption);
+    CommonConstruct(pParentWnd, iSelectPage);
+}
+
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : m_strCaption(pszCaption) {
+    CommonConstruct(pParentWnd, iSelectPage);
+}
+
+CPropertySheet::~CPropertySheet() = default;
+
+void CPropertySheet::CommonConstruct(CWnd* pParentWnd, UINT iSelectPage) {
+    memset(&m_psh, 0, sizeof m_psh);
+    m_psh.dwSize = sizeof m_psh;
+    m_psh.dwFlags = PSH_PROPTITLE;
+    m_psh.pszCaption = m_strCaption;
+    m_psh.nStartPage = iSelectPage;
+    m_pParentWnd = pParentWnd;
+}
+
+void CPropertySheet::AddPage(CPropertyPage* pPage) {
+    ASSERT_KINDOF(CPropertyPage, pPage);
+    if (m_hWnd) {
+        HPROPSHEETPAGE page = OrvPageAccess::handle(*pPage);
+        if (!page)
+            return;
+        if (!SendMessage(PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(page))) {
+            ::DestroyPropertySheetPage(page);
+            return;
+        }
+    }
+    m_pages.Add(pPage);
+}
+
+void CPropertySheet::RemovePage(CPropertyPage* pPage) {
+    RemovePage(GetPageIndex(pPage));
+}
+
+void CPropertySheet::RemovePage(int nPage) {
+    if (nPage < 0 || nPage >= GetPageCount())
+        return;
+    if (m_hWnd)
+        SendMessage(PSM_REMOVEPAGE, nPage, 0);
+    m_pages.RemoveAt(nPage);
+}
+
+BOOL CPropertySheet::MakeSheet(HWND hWndOwner) {
+    if (m_hWnd || m_pages.IsEmpty())
+        return FALSE;
+    std::vector<HPROPSHEETPAGE> pages;
+    for (int i = 0; i < GetPageCount(); ++i)
+        if (HPROPSHEETPAGE page = OrvPageAccess::handle(*GetPage(i)))
+            pages.push_back(page);
+    if (static_cast<int>(pages.size()) != GetPageCount()) {
+        for (HPROPSHEETPAGE page : pages)
+            ::DestroyPropertySheetPage(page);
+        return FALSE;
+    }
+    const std::wstring caption = wide(m_strCaption);
+    PROPSHEETHEADERW header = {};
+    header.dwSize = sizeof header;
+    header.dwFlags = (m_psh.dwFlags & ~static_cast<DWORD>(PSH_PROPSHEETPAGE)) | PSH_MODELESS;
+    header.hwndParent = hWndOwner;
+    header.hInstance = AfxGetResourceHandle();
+    header.hIcon = m_psh.hIcon;
+    header.pszCaption = caption.c_str();
+    header.nPages = static_cast<UINT>(pages.size());
+    header.nStartPage = m_psh.nStartPage;
+    header.phpage = pages.data();
+    INT_PTR made;
+    {
+        orvafx::CreationHook hook(this);
+        made = ::PropertySheetW(&header);
+    }
+    if (made == -1 || made == 0 || !m_hWnd)
+        return FALSE;
+    if (!m_bInitialised)
+        OnInitDialog();
+    m_bInitialised = TRUE;
+    return m_hWnd != NULL;
+}
+
+INT_PTR CPropertySheet::DoModal() {
+    const HWND owner = orvafx::modalOwner(m_pParentWnd);
+    m_bModeless = FALSE;
+    m_bInitialised = FALSE;
+    // What is answered when the sheet closes in another way than by its buttons.
+    m_nModalResult = IDCANCEL;
+    return RunOver(owner);
+}
+
+int CPropertySheet::RunOver(HWND hWndOwner) {
+    orvafx::OwnerDisabled disabled(hWndOwner);
+    if (!MakeSheet(hWndOwner))
+        return -1;
+    m_nFlags |= WF_CONTINUEMODAL;
+    const int result = RunModalLoop(MLF_SHOWONIDLE);
+    disabled.enable();
+    if (m_hWnd) {
+        ::ShowWindow(m_hWnd, SW_HIDE);
+        if (hWndOwner && ::GetActiveWindow() == m_hWnd)
+            ::SetActiveWindow(hWndOwner);
+        DestroyWindow();
+    }
+    return result;
+}
+
+BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
+    m_bModeless = TRUE;
+    m_bInitialised = FALSE;
+    if (!MakeSheet(pParentWnd->GetSafeHwnd()))
+        return FALSE;
+    if (dwStyle != static_cast<DWORD>(-1)) {
+        const DWORD change = WS_VISIBLE | WS_SYSMENU | WS_CAPTION | WS_THICKFRAME;
+        ModifyStyle(change & ~dwStyle & ~static_cast<DWORD>(WS_VISIBLE),
+                    dwStyle & change & ~static_cast<DWORD>(WS_VISIBLE), SWP_FRAMECHANGED);
+    }
+    if (dwExStyle)
+        ModifyStyleEx(0, dwExStyle, SWP_FRAMECHANGED);
+    ShowWindow((dwStyle == static_cast<DWORD>(-1) || (dwStyle & WS_VISIBLE)) ? SW_SHOW : SW_HIDE);
+    return TRUE;
+}
+
+BOOL CPropertySheet::OnInitDialog() {
+    return TRUE;
+}
+
+BOOL CPropertySheet::DestroyWindow() {
+    return CWnd::DestroyWindow();
+}
+
+void CPropertySheet::PostNcDestroy() {}
+
+void CPropertySheet::EndDialog(int nEndID) {
+    if (m_bModeless)
+        DestroyWindow();
+    else
+        EndModalLoop(nEndID);
+}
+
+BOOL CPropertySheet::ContinueModal() {
+    return CWnd::ContinueModal() && m_hWnd && SendMessage(PSM_GETCURRENTPAGEHWND);
+}
+
+BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (CWnd::OnCommand(wParam, lParam))
+        return TRUE;
+    const UINT id = LOWORD(wParam);
+    if (id != IDOK && id != IDCANCEL && id != ID_WIZFINISH)
+        return FALSE;
+    const HWND window = m_hWnd;
+    Default();
+    // The sheet has taken the button when it has no current page any more.
+    if (::IsWindow(window) && m_hWnd == window && !SendMessage(PSM_GETCURRENTPAGEHWND))
+        EndDialog(static_cast<int>(id));
+    return TRUE;
+}
+
+LRESULT CPropertySheet::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    // The close box says cancel, and its sheet has to go like one of the buttons'.
+    if (message == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_CLOSE) {
+        OnClose();
+        return 0;
+    }
+    return CWnd::DefWindowProc(message, wParam, lParam);
+}
+
+void CPropertySheet::OnClose() {
+    SendMessage(WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(::GetDlgItem(m_hWnd, IDCANCEL)));
+}
+
+BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
+    if (CWnd::PreTranslateMessage(pMsg))
+        return TRUE;
+    // Ctrl with Tab and Page keys turns pages: the system's sheet knows how.
+    const WPARAM key = pMsg->message == WM_KEYDOWN ? pMsg->wParam : 0;
+    if ((key == VK_TAB || key == VK_PRIOR || key == VK_NEXT) && ::GetKeyState(VK_CONTROL) < 0)
+        return ::SendMessageW(m_hWnd, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(pMsg)) != 0;
+    return PreTranslateInput(pMsg);
+}
+
+BOOL CPropertySheet::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    const bool command = nCode == CN_COMMAND || nCode == static_cast<int>(CN_UPDATE_COMMAND_UI);
+    if (!command || !(nID & 0x8000) || nID >= 0xF000)
+        return FALSE;
+    CWnd* owner = FromHandlePermanent(::GetParent(m_hWnd));
+    if (owner && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    CWinApp* app = AfxGetApp();
+    return app && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+CTabCtrl* CPropertySheet::GetTabControl() const {
+    return static_cast<CTabCtrl*>(FromHandle(reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL))));
+}
+
+CPropertyPage* CPropertySheet::GetPage(int nPage) const {
+    return nPage < 0 || nPage >= GetPageCount() ? NULL : static_cast<CPropertyPage*>(m_pages.GetAt(nPage));
+}
+
+int CPropertySheet::GetPageIndex(CPropertyPage* pPage) const {
+    for (int i = 0; i < GetPageCount(); ++i)
+        if (GetPage(i) == pPage)
+            return i;
+    return -1;
+}
+
+int CPropertySheet::GetActiveIndex() const {
+    if (!m_hWnd)
+        return static_cast<int>(m_psh.nStartPage);
+    return GetTabControl() ? GetTabControl()->GetCurSel() : -1;
+}
+
+BOOL CPropertySheet::SetActivePage(int nPage) {
+    if (nPage < 0 || nPage >= GetPageCount())
+        return FALSE;
+    if (!m_hWnd) {
+        m_psh.nStartPage = static_cast<UINT>(nPage);
+        return TRUE;
+    }
+    return static_cast<BOOL>(SendMessage(PSM_SETCURSEL, nPage));
+}
+
+BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage) {
+    return SetActivePage(GetPageIndex(pPage));
+}
+
+void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle) {
+    m_strCaption = lpszText;
+    m_psh.pszCaption = m_strCaption;
+    m_psh.dwFlags = (m_psh.dwFlags & ~static_cast<DWORD>(PSH_PROPTITLE)) | nStyle;
+    if (m_hWnd)
+        ::SendMessageA(m_hWnd, PSM_SETTITLEA, nStyle, reinterpret_cast<LPARAM>(lpszText));
+}
+
+void CPropertySheet::SetFinishText(LPCTSTR lpszText) {
+    SendMessage(PSM_SETFINISHTEXTA, 0, reinterpret_cast<LPARAM>(lpszText));
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+// Getting hold of windows while they are made. Internal to orvafx.dll.
+
+#include "threadstate.h"
+
+// What the foundation's own files may touch of a window object.
+struct OrvWndAccess {
+    // Attaches the object and puts its procedure before the window's own.
+    static void take(CWnd* object, HWND hWnd);
+    static void postNcDestroy(CWnd* object) { object->PostNcDestroy(); }
+    static void endModalLoop(CWnd* object, int result) { object->EndModalLoop(result); }
+};
+
+namespace orvafx {
+
+// While it lives, the next window that this thread makes is attached to the object: the first one only.
+class CreationHook {
+public:
+    // dialogsOnly: leave windows of other classes alone.
+    explicit CreationHook(CWnd* object);
+    ~CreationHook();
+    CreationHook(const CreationHook&) = delete;
+    CreationHook& operator=(const CreationHook&) = delete;
+    // The object never got a window.
+    bool missed() const { return threadState().making == object_; }
+
+private:
+    CWnd* object_;
+    CWnd* outerObject_;
+    HHOOK outerHook_;
+};
+
+// The same for a window that the system makes after its callback has returned.
+void hookNextDialog(CWnd* object);
+
+// Inside a catch block of a callback: traces what was thrown and swallows it. The result the message gets.
+LRESULT swallowException(const MSG& message);
+
+// The top-level window that a modal dialog disables: the parent's, or without one the program's.
+HWND modalOwner(CWnd* parent);
+
+// While it lives the owner takes no input.
+class OwnerDisabled {
+public:
+    explicit OwnerDisabled(HWND owner);
+    ~OwnerDisabled() { enable(); }
+    OwnerDisabled(const OwnerDisabled&) = delete;
+    OwnerDisabled& operator=(const OwnerDisabled&) = delete;
+    void enable();
+
+private:
+    HWND owner_;
+};
+
+bool isModuleOfChain(HINSTANCE module);
+void unregisterClasses(HINSTANCE module); // NULL: all
+
+} // namespace orvafx
