@@ -8,6 +8,7 @@
 #include <orvfc/OrvApi.h>
 #include <orvfc/bitmap/cdib.h>
 #include <orvfc/geometry/Extend.h>
+#include <orvfc/geometry/FourPointRect.h>
 #include <orvfc/geometry/ScreenUnits.h>
 #include <orvfc/geometry/planentity.h>
 #include <orvfc/linestyle/LineProperBar.h>

@@ -1,4 +1,5 @@
 #include <orvfc/geometry/Extend.h>
+#include <orvfc/geometry/FourPointRect.h>
 #include <orvfc/geometry/planentity.h>
 
 #include <cstring>
@@ -39,8 +40,7 @@ std::vector<BYTE> doubles(std::initializer_list<double> values) {
 
 // Bytes as laid down, back again, and untouched when the stream ends early.
 template <class T>
-void roundTrip(const T& value, std::initializer_list<double> fields) {
-    const std::vector<BYTE> expected = doubles(fields);
+void roundTrip(const T& value, const std::vector<BYTE>& expected) {
     EXPECT_EQ(stored(value), expected);
     T loaded;
     load(loaded, expected);
@@ -60,9 +60,17 @@ void roundTrip(const T& value, std::initializer_list<double> fields) {
 }
 
 TEST(Stored, AsDoublesInTheOrderOfTheFields) {
-    roundTrip(CPosition(1.5, -2), {1.5, -2});
-    roundTrip(CDouSize(3.25, 4), {3.25, 4});
-    roundTrip(CDouRect(1, 2, 3, 4), {1, 2, 3, 4});
+    roundTrip(CPosition(1.5, -2), doubles({1.5, -2}));
+    roundTrip(CDouSize(3.25, 4), doubles({3.25, 4}));
+    roundTrip(CDouRect(1, 2, 3, 4), doubles({1, 2, 3, 4}));
+    roundTrip(CFPDRect(1, 2, 3, 4, 0.5), doubles({1, 2, 3, 4, 0.5}));
+}
+
+TEST(Stored, WholeUnitsWithADoubleAngle) {
+    std::vector<BYTE> expected{1, 0, 0, 0, 0xFE, 0xFF, 0xFF, 0xFF, 3, 0, 0, 0, 4, 1, 0, 0};
+    const std::vector<BYTE> angle = doubles({0.5});
+    expected.insert(expected.end(), angle.begin(), angle.end());
+    roundTrip(CFPRect(1, -2, 3, 260, 0.5), expected);
 }
 
 template <class T>
@@ -80,6 +88,8 @@ TEST(Stored, DumpsTellEveryDigit) {
     EXPECT_EQ(dumped(CPosition(0.1, 1e7 + 0.25)), "CPosition (0.10000000000000001, 10000000.25)");
     EXPECT_EQ(dumped(CDouSize(1, -2)), "CDouSize (1, -2)");
     EXPECT_EQ(dumped(CDouRect(1, 2, 3, 4)), "CDouRect (1, 2, 3, 4)");
+    EXPECT_EQ(dumped(CFPDRect(1, 2, 3, 4, 0.1)), "CFPDRect (1, 2, 3, 4) turned by 0.10000000000000001");
+    EXPECT_EQ(dumped(CFPRect(1, 2, 3, -4, 0.5)), "CFPRect (1, 2, 3, -4) turned by 0.5");
     EXPECT_EQ(dumped(CExtend(2.5)), "CExtend 2.5, class-wide decimals 5");
 }
 
