@@ -140,8 +140,9 @@ TEST(Draw, ByTypeWidthAndColour) {
         COrvDrawManage set;
         set.InitToGerApp();
         EXPECT_EQ(row.single, set.Draw(&other.dc, row.type, row.width, row.color));
-        if (row.type != 0)
+        if (row.type != 0) {
             EXPECT_EQ(row.seen, other.take());
+        }
     }
 }
 
@@ -186,8 +187,8 @@ TEST(Draw, CurvesAreFlattenedFirst) {
     for (const std::string& stroke : paper.take()) {
         int x1, y1, x2, y2;
         ASSERT_EQ(4, sscanf(stroke.c_str(), "%d,%d %d,%d", &x1, &y1, &x2, &y2));
-        EXPECT_NEAR(200, hypot(x1 - 200, y1 - 200), 3.5)
-            << stroke; // chords of the flattened curve, truncated
+        // Chords of the flattened curve lie inside the circle, and points are truncated.
+        EXPECT_NEAR(200, hypot(x1 - 200, y1 - 200), 3.5) << stroke;
         length += hypot(x2 - x1, y2 - y1);
     }
     EXPECT_NEAR(3.14159 * 400 / 2, length, 60) << "half of the circle is dots";
