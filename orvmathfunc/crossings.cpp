@@ -38,13 +38,14 @@ inline double clamped(double value, double low, double high) {
     return value < low ? low : value > high ? high : value;
 }
 
-inline bool isPart(double t) {
-    return (t >= 0) & (t <= 1);
+// Yes or no as an int, joined without branches: half of all pairs of segments go either way.
+inline int isPart(double t) {
+    return int(t >= 0) & int(t <= 1);
 }
 
 // Farther from the segment than any touch of segments that are not parallel: quickly told, and true of most.
-inline bool isFar(double t) {
-    return (t < -1) | (t > 2);
+inline int isFar(double t) {
+    return int(t < -1) | int(t > 2);
 }
 
 inline double larger(double a, double b) {
@@ -215,7 +216,7 @@ int ORVMATH_CALL GetCrossPointBetweenLineAndLineInBounds(double x1, double y1, d
     const double hair = hairPart * (size({x1, y1}) + size({x2, y2}) + size({x3, y3}) + size({x4, y4}));
     if (!(std::fabs(slant) > hair * larger(size(d1), size(d2))))
         return 0;
-    if (!(isPart(t) & (t < 1) & isPart(u)))
+    if (!(isPart(t) & int(t < 1) & isPart(u)))
         return answerTouch({{x1, y1}, {x2, y2}}, {{x3, y3}, {x4, y4}}, t, u, slant, hair, x, y);
     putPoint(x, y, {x1 + t * d1.x, y1 + t * d1.y});
     return 1;
