@@ -91,13 +91,18 @@ void CStringList::Serialize(CArchive& ar) {
             ar << GetNext(pos);
         return;
     }
-    CStringList loaded;
-    for (DWORD_PTR nLeft = ar.ReadCount(); nLeft > 0; nLeft--) {
-        CString str;
-        ar >> str;
-        loaded.AddTail(str);
+    const INT_PTR nBefore = m_nCount;
+    try {
+        for (DWORD_PTR nLeft = ar.ReadCount(); nLeft > 0; nLeft--) {
+            CString str;
+            ar >> str;
+            AddTail(str);
+        }
+    } catch (...) {
+        while (m_nCount > nBefore)
+            RemoveTail();
+        throw;
     }
-    AddTail(&loaded);
 }
 
 void CObArray::Serialize(CArchive& ar) {
