@@ -28,7 +28,9 @@ void fillInfo(const COrvDib& dib, const DibLayout& layout, DibInfo& info) {
     memset(&info, 0, sizeof(info));
     memcpy(&info.header, dib.m_pInfoHeader, sizeof(info.header));
     info.header.biSizeImage = layout.rowsBytes;
-    info.header.biClrUsed = info.header.biClrImportant = 0;
+    // Said in full: Wine's metafiles write past a record's end when 8 bits leave it at 0.
+    info.header.biClrUsed = layout.bitCount <= 8 ? 1u << layout.bitCount : 0;
+    info.header.biClrImportant = 0;
     if (layout.isRunLength())
         info.header.biCompression = BI_RGB;
     if (layout.maskBytes != 0)

@@ -61,6 +61,10 @@ BOOL COrvDib::AttachMemory(void* header, int mustDelete, void* hGlobal) {
 // Opens the file and maps it whole, or as long as length says unless it is 0. What could be done is in the
 // fields.
 void COrvDib::MapFile(const char* path, DWORD sharing, DWORD creation, DWORD length) {
+    // Some systems let an administrator's programs write to protected files.
+    const DWORD attributes = ::GetFileAttributesA(path);
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        return;
     const HANDLE hFile = ::CreateFileA(path, GENERIC_READ | GENERIC_WRITE, sharing, NULL, creation,
                                        FILE_ATTRIBUTE_NORMAL, NULL);
     if (hFile == INVALID_HANDLE_VALUE)

@@ -1,5 +1,7 @@
 #include "DibPixels.h"
 
+#include <algorithm>
+
 namespace orv {
 namespace {
 
@@ -12,7 +14,9 @@ int distanceToWhite(const RGBQUAD& color) {
 class RunReader {
 public:
     RunReader(const DibLayout& layout, const BYTE* runs, BYTE* rows)
-        : layout_(layout), next_(runs), end_(runs + layout.imageBytes), rows_(rows) {}
+        : layout_(layout),
+          lineEnd_(int(std::min<ULONGLONG>(layout.stride * 8ULL / layout.bitCount, INT_MAX))), next_(runs),
+          end_(runs + layout.imageBytes), rows_(rows) {}
 
     bool read();
 
@@ -22,9 +26,9 @@ private:
     bool encoded(int count, BYTE value);
     bool absolute(int count);
     bool skip();
-    bool fits(int count) const { return y_ < layout_.height && count <= layout_.width - x_; }
+    bool fits(int count) const { return y_ < layout_.height && count <= lineEnd_ - x_; }
     void put(DWORD value) {
-        if (rows_ != NULL)
+        if (rows_ != NULL && x_ < layout_.width)
             setPixel(rows_ + size_t(layout_.stride) * y_, x_, layout_.bitCount, value);
         ++x_;
     }
@@ -32,6 +36,7 @@ private:
     DWORD pixelOf(const BYTE* bytes, int i) const { return getPixel(bytes, i, layout_.bitCount); }
 
     const DibLayout& layout_;
+    const int lineEnd_; // some programs run on over what a row is filled up with
     const BYTE* next_;
     const BYTE* end_;
     BYTE* rows_;
@@ -64,7 +69,7 @@ bool RunReader::absolute(int count) {
 }
 
 bool RunReader::skip() {
-    if (end_ - next_ < 2 || next_[0] > layout_.width - x_ || next_[1] > layout_.height - y_)
+    if (end_ - next_ < 2 || next_[0] > lineEnd_ - x_ || next_[1] > layout_.height - y_)
         return false;
     x_ += next_[0];
     y_ += next_[1];

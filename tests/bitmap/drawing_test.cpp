@@ -1,0 +1,241 @@
+// Bitmaps drawn, read back pixel by pixel.
+
+#include "host.h"
+
+#include <math.h>
+
+using namespace orv::test;
+
+namespace {
+
+TEST(BitmapDrawing, StretchedAtEveryDepth) {
+    for (const Depth& depth : depths()) {
+        SCOPED_TRACE(depth.name);
+        COrvDib dib;
+        Paper paper(40, 40);
+        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        paper.dc.SetStretchBltMode(BLACKONWHITE);
+        ASSERT_TRUE(dib.Draw(&paper.dc, CPoint(3, 2), CSize(21, 15)));
+        EXPECT_EQ(BLACKONWHITE, paper.dc.GetStretchBltMode());
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 40; ++x) {
+                const bool inside = x >= 3 && x < 24 && y >= 2 && y < 17;
+                const COLORREF expected = inside ? pictureColor(depth, (x - 3) / 3, (y - 2) / 3) : kWhite;
+                ASSERT_EQ(expected, paper.at(x, y)) << x << ", " << y;
+            }
+        }
+    }
+}
+
+// Quarter turns about the left-top corner: picture pixel (i, j) is a square of two by two.
+struct TurnRow {
+    double angle;
+    CPoint (*place)(int i, int j);
+};
+
+const TurnRow turnRows[] = {
+    {0, [](int i, int j) { return CPoint(20 + 2 * i, 20 + 2 * j); }},
+    {1.5707963, [](int i, int j) { return CPoint(20 + 2 * j, 18 - 2 * i); }},
+    {3.1415926, [](int i, int j) { return CPoint(18 - 2 * i, 18 - 2 * j); }},
+    {-1.5707963, [](int i, int j) { return CPoint(18 - 2 * j, 20 + 2 * i); }},
+};
+
+TEST(BitmapDrawing, TurnedByQuartersAtEveryDepth) {
+    for (const Depth& depth : depths()) {
+        COrvDib dib;
+        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        for (const TurnRow& row : turnRows) {
+            SCOPED_TRACE(testing::Message() << depth.name << " " << row.angle);
+            Paper paper(40, 40), expected(40, 40);
+            ASSERT_TRUE(dib.Draw(&paper.dc, CPoint(20, 20), CSize(14, 10), row.angle));
+            for (int j = 0; j < 5; ++j)
+                for (int i = 0; i < 7; ++i)
+                    expected.dc.FillSolidRect(CRect(row.place(i, j), CSize(2, 2)), pictureColor(depth, i, j));
+            for (int y = 0; y < 40; ++y)
+                for (int x = 0; x < 40; ++x)
+                    ASSERT_EQ(expected.at(x, y), paper.at(x, y)) << x << ", " << y;
+        }
+    }
+}
+
+// Each pixel against the definition: turned back about the origin it lies in the picture or is left alone.
+void expectTurned(Paper& paper, const Depth& depth, CPoint origin, CSize size, double angle, CRect clip) {
+    for (int y = 0; y < paper.height; ++y) {
+        for (int x = 0; x < paper.width; ++x) {
+            const double dx = x + 0.5 - origin.x, dy = y + 0.5 - origin.y;
+            const double across = (dx * cos(angle) - dy * sin(angle)) / size.cx * 7;
+            const double down = (dx * sin(angle) + dy * cos(angle)) / size.cy * 5;
+            const double hair = 1e-9;
+            if (fabs(across - round(across)) < hair || fabs(down - round(down)) < hair)
+                continue;
+            const bool inside =
+                across > 0 && across < 7 && down > 0 && down < 5 && clip.PtInRect(CPoint(x, y));
+            const COLORREF expected = inside ? pictureColor(depth, int(across), int(down)) : kWhite;
+            ASSERT_EQ(expected, paper.at(x, y)) << x << ", " << y;
+        }
+    }
+}
+
+TEST(BitmapDrawing, TurnedByAnyAngleAtEveryDepth) {
+    for (const Depth& depth : depths()) {
+        COrvDib dib;
+        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        for (double angle : {0.5235987, 2.0, -0.4, 4.0}) {
+            SCOPED_TRACE(testing::Message() << depth.name << " " << angle);
+            Paper paper(80, 80);
+            ASSERT_TRUE(dib.Draw(&paper.dc, CPoint(37, 41), CSize(31, 23), angle));
+            expectTurned(paper, depth, CPoint(37, 41), CSize(31, 23), angle, CRect(0, 0, 80, 80));
+        }
+    }
+}
+
+// Clipping, a mapping of the host's own and mirrored sizes hold for turned pictures as for others, and the
+// device context is left as it was.
+TEST(BitmapDrawing, TurnedInTheHostsCoordinates) {
+    const Depth& depth = depths()[5];
+    COrvDib dib;
+    ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+    Paper paper(80, 80);
+    paper.dc.SetMapMode(MM_ANISOTROPIC);
+    paper.dc.SetWindowExt(1, 1);
+    paper.dc.SetViewportExt(2, -2);
+    paper.dc.SetViewportOrg(10, 70);
+    paper.dc.IntersectClipRect(5, 0, 35, 30); // device 20..80, 10..70
+    CRect before, after;
+    paper.dc.GetClipBox(before);
+    // Device (40, 50), 32 to the right, 24 downwards.
+    ASSERT_TRUE(dib.Draw(&paper.dc, CPoint(15, 10), CSize(16, -12), 0.5));
+    expectTurned(paper, depth, CPoint(40, 50), CSize(32, 24), 0.5, CRect(20, 10, 80, 70));
+    paper.dc.GetClipBox(after);
+    EXPECT_EQ(before, after);
+    EXPECT_EQ(CPoint(10, 70), paper.dc.GetViewportOrg());
+    // The same with mirrored sides: the far corner stays where a negative size puts it.
+    paper.clear();
+    ASSERT_TRUE(dib.Draw(&paper.dc, CPoint(15, 10), CSize(-10, -10), 0));
+    EXPECT_EQ(pictureColor(depth, 0, 0), paper.at(39, 51));
+    EXPECT_EQ(pictureColor(depth, 6, 4), paper.at(21, 69));
+}
+
+TEST(BitmapDrawing, TopDownAndRunsAreTheRightWayUp) {
+    Paper paper(20, 10), turned(20, 10);
+    COrvDib down, runs;
+    Bytes file = pictureFile(depths()[5], 4, 2);
+    const LONG height = -2;
+    memcpy(&file[22], &height, 4);
+    ASSERT_TRUE(readBytes(down, file));
+    ASSERT_TRUE(readBytes(runs, makeFile({.width = 4,
+                                          .height = 2,
+                                          .compression = BI_RLE8,
+                                          .sizeImage = 10,
+                                          .runs = {4, 9, 0, 0, 1, 3, 3, 5, 0, 1}})));
+    down.Draw(&paper.dc, CPoint(0, 0), CSize(4, 2));
+    down.Draw(&turned.dc, CPoint(0, 0), CSize(4, 2), 0);
+    runs.Draw(&paper.dc, CPoint(10, 0), CSize(4, 2));
+    runs.Draw(&turned.dc, CPoint(10, 0), CSize(4, 2), 0);
+    for (Paper* one : {&paper, &turned}) {
+        EXPECT_EQ(pictureColor(depths()[5], 3, 1), one->at(3, 0)); // the file's rows from the top down
+        EXPECT_EQ(pictureColor(depths()[5], 3, 0), one->at(3, 1));
+        const auto color = [](int i) {
+            return RGB(tableColor(i).rgbRed, tableColor(i).rgbGreen, tableColor(i).rgbBlue);
+        };
+        EXPECT_EQ(color(3), one->at(10, 0));
+        EXPECT_EQ(color(5), one->at(11, 0));
+        EXPECT_EQ(color(9), one->at(10, 1));
+    }
+}
+
+// Indices beyond the colour table are black; what there is to draw in decides how long it takes.
+TEST(BitmapDrawing, OddPicturesAndPlaces) {
+    Paper paper(20, 20);
+    COrvDib few, empty;
+    ASSERT_TRUE(readBytes(few, makeFile({.colorsUsed = 2})));
+    ASSERT_TRUE(few.Draw(&paper.dc, CPoint(0, 0), CSize(5, 3)));
+    EXPECT_EQ(RGB(0, 0, 0), paper.at(0, 0));
+    ASSERT_TRUE(few.Draw(&paper.dc, CPoint(-500000000, -400000000), CSize(2000000000, 2000000000), 0.1));
+    EXPECT_NE(kWhite, paper.at(19, 19));
+    ASSERT_TRUE(few.Draw(&paper.dc, CPoint(INT_MAX, INT_MIN), CSize(INT_MAX, INT_MAX), 0.1));
+    ASSERT_TRUE(few.Draw(&paper.dc, CPoint(500, 500), CSize(20, 20), 0.1));
+    EXPECT_FALSE(few.Draw(&paper.dc, CPoint(0, 0), CSize(0, 5)));
+    EXPECT_FALSE(few.Draw(&paper.dc, CPoint(0, 0), CSize(0, 5), 0.1));
+    EXPECT_FALSE(few.Draw(&paper.dc, CPoint(0, 0), CSize(5, 5), NAN));
+    EXPECT_FALSE(few.Draw(NULL, CPoint(0, 0), CSize(5, 5)));
+    EXPECT_FALSE(empty.Draw(&paper.dc, CPoint(0, 0), CSize(5, 5)));
+    EXPECT_FALSE(empty.Draw(&paper.dc, CPoint(0, 0), CSize(5, 5), 0.1));
+}
+
+// A metafile has no clipping box; the record lies where the picture does, and nothing behind it is written.
+TEST(BitmapDrawing, TurnedIntoAMetafile) {
+    COrvDib dib;
+    ASSERT_TRUE(readBytes(dib, pictureFile(depths()[2], 7, 5)));
+    CMetaFileDC meta;
+    meta.CreateEnhanced(NULL, NULL, NULL, NULL);
+    ASSERT_TRUE(dib.Draw(&meta, CPoint(10, 30), CSize(14, 10), 0.7));
+    const HENHMETAFILE file = meta.CloseEnhanced();
+    ENHMETAHEADER header;
+    ::GetEnhMetaFileHeader(file, sizeof(header), &header);
+    EXPECT_GT(header.nRecords, 4u);
+    EXPECT_GE(header.rclBounds.left, 10);
+    EXPECT_GE(header.rclBounds.top, 19);
+    EXPECT_LE(header.rclBounds.right, 28);
+    EXPECT_LE(header.rclBounds.bottom, 39);
+    ::DeleteEnhMetaFile(file);
+    EXPECT_TRUE(::HeapValidate(::GetProcessHeap(), 0, NULL));
+}
+
+// Colours given by number are those of the bitmap's colour table while its palette is used.
+TEST(BitmapPalette, UsedInADeviceContext) {
+    for (int bitCount : {1, 4, 8, 16, 24, 32}) {
+        SCOPED_TRACE(bitCount);
+        const int colors = bitCount <= 8 ? 1 << bitCount : 9;
+        COrvDib dib;
+        ASSERT_TRUE(readBytes(dib, makeFile({.bitCount = WORD(bitCount), .colorsUsed = DWORD(colors)})));
+        Paper paper(256, 1);
+        dib.UsePalette(&paper.dc, FALSE);
+        for (int i = 0; i < colors; ++i) {
+            paper.dc.SetPixel(i, 0, PALETTEINDEX(i));
+            const RGBQUAD color = tableColor(i);
+            EXPECT_EQ(RGB(color.rgbRed, color.rgbGreen, color.rgbBlue), paper.at(i, 0)) << i;
+        }
+        ::SelectPalette(paper.dc, static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE)), FALSE);
+    }
+    COrvDib plain;
+    Paper paper(2, 2);
+    ASSERT_TRUE(readBytes(plain, makeFile({.bitCount = 24})));
+    EXPECT_EQ(0u, plain.UsePalette(&paper.dc, FALSE));
+    EXPECT_EQ(::GetStockObject(DEFAULT_PALETTE), ::GetCurrentObject(paper.dc, OBJ_PAL));
+}
+
+TEST(BitmapPalette, TheSystemsForPicturesWithoutColourTable) {
+    COrvDib plain, table, empty;
+    Paper paper(2, 2);
+    ASSERT_TRUE(readBytes(plain, makeFile({.bitCount = 24})));
+    ASSERT_TRUE(readBytes(table, makeFile({})));
+    const HPALETTE own = table.m_hPal;
+    EXPECT_TRUE(plain.SetSystemPalette(&paper.dc));
+    EXPECT_GT(::GetPaletteEntries(plain.m_hPal, 0, 0, NULL), 15u);
+    EXPECT_FALSE(table.SetSystemPalette(&paper.dc));
+    EXPECT_EQ(own, table.m_hPal);
+    EXPECT_FALSE(empty.SetSystemPalette(&paper.dc));
+}
+
+TEST(BitmapDrawing, DeviceBitmapAtEveryDepth) {
+    for (const Depth& depth : depths()) {
+        SCOPED_TRACE(depth.name);
+        COrvDib dib;
+        Paper paper(10, 10);
+        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        CBitmap bitmap;
+        ASSERT_TRUE(bitmap.Attach(dib.CreateBitmap(&paper.dc)));
+        CDC source;
+        source.CreateCompatibleDC(&paper.dc);
+        CBitmap* old = source.SelectObject(&bitmap);
+        paper.dc.BitBlt(0, 0, 7, 5, &source, 0, 0, SRCCOPY);
+        source.SelectObject(old);
+        for (int y = 0; y < 5; ++y)
+            for (int x = 0; x < 7; ++x)
+                ASSERT_EQ(pictureColor(depth, x, y), paper.at(x, y)) << x << ", " << y;
+    }
+    EXPECT_EQ(NULL, COrvDib().CreateBitmap(NULL));
+}
+
+} // namespace

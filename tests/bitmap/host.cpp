@@ -1,0 +1,193 @@
+#include "host.h"
+
+namespace orv::test {
+namespace {
+
+Messages messages;
+
+class KeepingApp : public CWinApp {
+public:
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override {
+        messages.push_back(lpszPrompt);
+        return IDOK;
+    }
+} keepingApp;
+
+const COLORREF palette[] = {RGB(0, 0, 0),       RGB(255, 0, 0),   RGB(0, 255, 0),   RGB(0, 0, 255),
+                            RGB(255, 255, 0),   RGB(0, 255, 255), RGB(255, 0, 255), RGB(128, 64, 0),
+                            RGB(255, 255, 255), RGB(128, 128, 0), RGB(0, 128, 128), RGB(64, 0, 64),
+                            RGB(32, 32, 32),    RGB(64, 128, 32), RGB(8, 16, 248),  RGB(200, 100, 50)};
+
+int indexAt(int bitCount, int x, int y) {
+    const int mixed = x * 5 + y * 11 + x * y;
+    return bitCount == 1 ? mixed % 3 % 2 : mixed % 16;
+}
+
+// Full and empty channels only: every depth can show them.
+COLORREF strongColor(int index) {
+    return palette[index % 7 + 1 - (index % 7 == 6 ? 6 : 0)];
+}
+
+DWORD fieldOf(BYTE value, DWORD mask) {
+    return value != 0 ? mask : 0;
+}
+
+DWORD packed(const Depth& depth, COLORREF color) {
+    if (depth.bitCount == 24 || (depth.bitCount == 32 && depth.masks.empty()))
+        return DWORD(GetRValue(color)) << 16 | GetGValue(color) << 8 | GetBValue(color);
+    const std::vector<DWORD> masks =
+        !depth.masks.empty() ? depth.masks : std::vector<DWORD>{0x7C00, 0x3E0, 0x1F};
+    return fieldOf(GetRValue(color), masks[0]) | fieldOf(GetGValue(color), masks[1]) |
+           fieldOf(GetBValue(color), masks[2]);
+}
+
+BYTE fieldValue(DWORD value, DWORD mask) {
+    return BYTE(ULONGLONG(value & mask) * 255 / mask);
+}
+
+} // namespace
+
+Messages takeMessages() {
+    return std::exchange(messages, {});
+}
+
+Folder::Folder() {
+    char temp[MAX_PATH], name[MAX_PATH];
+    ::GetTempPathA(MAX_PATH, temp);
+    ::GetTempFileNameA(temp, "dib", 0, name);
+    ::DeleteFileA(name);
+    ::CreateDirectoryA(name, NULL);
+    path = name;
+}
+
+Folder::~Folder() {
+    for (const std::string& name : names()) {
+        ::SetFileAttributesA(file(name.c_str()).c_str(), FILE_ATTRIBUTE_NORMAL);
+        ::DeleteFileA(file(name.c_str()).c_str());
+    }
+    ::RemoveDirectoryA(path.c_str());
+}
+
+std::vector<std::string> Folder::names() const {
+    std::vector<std::string> found;
+    WIN32_FIND_DATAA data;
+    const HANDLE search = ::FindFirstFileA(file("*").c_str(), &data);
+    if (search == INVALID_HANDLE_VALUE)
+        return found;
+    do {
+        if (data.cFileName[0] != '.')
+            found.push_back(data.cFileName);
+    } while (::FindNextFileA(search, &data));
+    ::FindClose(search);
+    return found;
+}
+
+void writeFile(const std::string& path, const Bytes& bytes) {
+    CFile file(path.c_str(), CFile::modeCreate | CFile::modeWrite);
+    file.Write(bytes.data(), UINT(bytes.size()));
+}
+
+Bytes readFile(const std::string& path) {
+    CFile file(path.c_str(), CFile::modeRead | CFile::shareDenyNone);
+    Bytes bytes(size_t(file.GetLength()));
+    file.Read(bytes.data(), UINT(bytes.size()));
+    return bytes;
+}
+
+Paper::Paper(int w, int h) : width(w), height(h) {
+    const BITMAPINFO info = {{40, w, -h, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+    void* bits = NULL;
+    dc.CreateCompatibleDC(NULL);
+    bitmap_ = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, NULL, 0);
+    bits_ = static_cast<DWORD*>(bits);
+    old_ = ::SelectObject(dc, bitmap_);
+    clear();
+}
+
+Paper::~Paper() {
+    ::SelectObject(dc, old_);
+    ::DeleteObject(bitmap_);
+}
+
+COLORREF Paper::at(int x, int y) {
+    ::GdiFlush();
+    const DWORD value = bits_[y * width + x];
+    return RGB(BYTE(value >> 16), BYTE(value >> 8), BYTE(value));
+}
+
+void Paper::clear() {
+    ::GdiFlush();
+    memset(bits_, 0xFF, size_t(4) * width * height);
+}
+
+const std::vector<Depth>& depths() {
+    static const std::vector<Depth> all = {
+        {"1 bit", 1, BI_RGB, {}},
+        {"4 bits", 4, BI_RGB, {}},
+        {"8 bits", 8, BI_RGB, {}},
+        {"16 bits", 16, BI_RGB, {}},
+        {"16 bits, fields", 16, BI_BITFIELDS, {0xF800, 0x07E0, 0x001F}},
+        {"24 bits", 24, BI_RGB, {}},
+        {"32 bits", 32, BI_RGB, {}},
+        {"32 bits, fields", 32, BI_BITFIELDS, {0x0000FF, 0x00FF00, 0xFF0000}},
+    };
+    return all;
+}
+
+Bytes pictureFile(const Depth& depth, int width, int height) {
+    Bytes bytes = makeFile({.width = width,
+                            .height = height,
+                            .bitCount = depth.bitCount,
+                            .compression = depth.compression,
+                            .masks = depth.masks});
+    const size_t stride = strideOf(width, depth.bitCount), start = bytes.size() - stride * height;
+    for (int i = 0; depth.bitCount <= 8 && i < 16 && i < 1 << depth.bitCount; ++i) {
+        const RGBQUAD color = {GetBValue(palette[i]), GetGValue(palette[i]), GetRValue(palette[i]), 0};
+        memcpy(&bytes[54 + 4 * i], &color, 4);
+    }
+    // Every byte is set: what the rows are filled up with as well.
+    std::fill(bytes.begin() + start, bytes.end(), BYTE(0));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const size_t bit = size_t(x) * depth.bitCount;
+            BYTE* at = &bytes[start + stride * (height - 1 - y) + bit / 8];
+            const DWORD value = depth.bitCount <= 8 ? DWORD(indexAt(depth.bitCount, x, y))
+                                                    : packed(depth, pictureColor(depth, x, y));
+            if (depth.bitCount < 8)
+                *at |= BYTE(value << (8 - depth.bitCount - bit % 8));
+            else
+                memcpy(at, &value, depth.bitCount / 8);
+        }
+    }
+    return bytes;
+}
+
+COLORREF pictureColor(const Depth& depth, int x, int y) {
+    const int index = indexAt(depth.bitCount, x, y);
+    return depth.bitCount <= 8 ? palette[index] : strongColor(index);
+}
+
+BOOL readBytes(COrvDib& dib, const Bytes& bytes) {
+    CMemFile file(const_cast<BYTE*>(bytes.data()), UINT(bytes.size()));
+    return dib.Read(&file);
+}
+
+COLORREF colorOf(const COrvDib& dib, int x, int y) {
+    const BITMAPINFOHEADER& header = *dib.m_pInfoHeader;
+    const DWORD value = dib.GetPixelIndex(x, dib.GetDimensions().cy - 1 - y);
+    if (header.biBitCount <= 8) {
+        const RGBQUAD& color = dib.m_pColorTable[value];
+        return RGB(color.rgbRed, color.rgbGreen, color.rgbBlue);
+    }
+    DWORD masks[3] = {0xFF0000, 0xFF00, 0xFF};
+    if (header.biBitCount == 16) {
+        masks[0] = 0x7C00;
+        masks[1] = 0x3E0;
+        masks[2] = 0x1F;
+    }
+    if (header.biCompression == BI_BITFIELDS)
+        memcpy(masks, dib.m_pInfoHeader + 1, sizeof(masks));
+    return RGB(fieldValue(value, masks[0]), fieldValue(value, masks[1]), fieldValue(value, masks[2]));
+}
+
+} // namespace orv::test

@@ -1,0 +1,152 @@
+// Bitmaps in mapped files.
+
+#include "host.h"
+#include "second.h"
+
+using namespace orv::test;
+
+namespace {
+
+struct AttachRow {
+    const char* name;
+    Bytes bytes;
+    const char* message; // NULL: attached
+};
+
+const AttachRow attachRows[] = {
+    {"good", makeFile({}), NULL},
+    {"with a gap", makeFile({.gap = 9}), NULL},
+    {"impossible place of the rows: behind the colour table", makeFile({.offset = 20}), NULL},
+    {"place of the rows behind the end", makeFile({.offset = 0x7FFFFFFF}), NULL},
+    {"empty", {}, "Empty bitmap file"},
+    {"one byte", {'B'}, "Invalid bitmap file"},
+    {"another kind", makeFile({.type = 0x4242}), "Invalid bitmap file"},
+    {"two bytes", {'B', 'M'}, "AttachMemory error"},
+    {"OS/2", makeFile({.headerSize = 12}), "AttachMemory error"},
+    {"more rows than the file holds", makeFile({.rowsBytes = 23}), "AttachMemory error"},
+    {"height beyond all files", makeFile({.height = 0x7FFFFFFF, .rowsBytes = 24}), "AttachMemory error"},
+    {"a run outside", makeFile({.compression = BI_RLE8, .sizeImage = 4, .runs = {9, 1, 0, 1}}),
+     "AttachMemory error"},
+};
+
+TEST(BitmapMapping, AttachesWhatIsWhole) {
+    const Folder folder;
+    const std::string path = folder.file("a.bmp");
+    for (const AttachRow& row : attachRows) {
+        SCOPED_TRACE(row.name);
+        writeFile(path, row.bytes);
+        COrvDib dib;
+        EXPECT_EQ(row.message == NULL, dib.AttachMapFile(path.c_str(), 0) != FALSE);
+        EXPECT_EQ(row.message == NULL ? Messages() : Messages({row.message}), takeMessages());
+        EXPECT_EQ(row.message == NULL ? 7u : 0u, dib.GetPixelIndex(0, 0));
+        EXPECT_EQ(row.message == NULL, dib.m_hMapFile != NULL);
+        dib.Empty();
+        // Nothing holds the file any longer.
+        EXPECT_TRUE(::DeleteFileA(path.c_str()));
+    }
+    COrvDib dib;
+    EXPECT_FALSE(dib.AttachMapFile(path.c_str(), 0));
+    EXPECT_EQ(Messages(), takeMessages());
+    EXPECT_TRUE(folder.names().empty());
+}
+
+TEST(BitmapMapping, ChangesTheFile) {
+    const Folder folder;
+    const std::string path = folder.file("a.bmp");
+    const Bytes before = makeFile({.gap = 3});
+    writeFile(path, before);
+    COrvDib dib;
+    ASSERT_TRUE(dib.AttachMapFile(path.c_str(), 0));
+    EXPECT_EQ(0, dib.m_nHeaderOwner);
+    ASSERT_TRUE(dib.SetPiexelIndex(1, 0, 200));
+    dib.Empty();
+    Bytes after = readFile(path);
+    EXPECT_EQ(200, after[54 + 1024 + 3 + 1]);
+    after[54 + 1024 + 3 + 1] = before[54 + 1024 + 3 + 1];
+    EXPECT_EQ(before, after);
+}
+
+TEST(BitmapMapping, AReadOnlyFileIsLeftAlone) {
+    const Folder folder;
+    const std::string path = folder.file("a.bmp");
+    writeFile(path, makeFile({}));
+    ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    COrvDib dib, other;
+    EXPECT_FALSE(dib.AttachMapFile(path.c_str(), 1));
+    CFile file(path.c_str(), CFile::modeRead | CFile::shareDenyWrite);
+    EXPECT_TRUE(other.Read(&file));
+    EXPECT_FALSE(other.CopyToMapFile(path.c_str()));
+    file.Close();
+    EXPECT_EQ(7u, other.GetPixelIndex(0, 0));
+    EXPECT_EQ(makeFile({}), readFile(path));
+    EXPECT_EQ(Messages(), takeMessages());
+}
+
+// What a second program, run now, can do with the file.
+int secondProgram(const std::string& path) {
+    std::string line = "bitmap_second.exe \"" + path + "\"";
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process;
+    DWORD code = 99;
+    if (::CreateProcessA(NULL, line.data(), NULL, NULL, TRUE, 0, NULL, NULL, &startup, &process)) {
+        ::WaitForSingleObject(process.hProcess, 60000);
+        ::GetExitCodeProcess(process.hProcess, &code);
+        ::CloseHandle(process.hThread);
+        ::CloseHandle(process.hProcess);
+    }
+    return int(code);
+}
+
+TEST(BitmapMapping, TwoProgramsOnOneFile) {
+    const Folder folder;
+    const std::string path = folder.file("a.bmp");
+    writeFile(path, makeFile({}));
+    COrvDib dib;
+    ASSERT_TRUE(dib.AttachMapFile(path.c_str(), 0));
+    EXPECT_EQ(secondNothing, secondProgram(path));
+    ASSERT_TRUE(dib.AttachMapFile(path.c_str(), 1));
+    ASSERT_TRUE(dib.SetPiexelIndex(0, 0, secondPixel));
+    EXPECT_EQ(secondReads, secondProgram(path));
+    EXPECT_EQ(secondPixel, dib.GetPixelIndex(0, 0));
+    dib.Empty();
+    EXPECT_EQ(secondReads | secondAttaches | secondReplaces, secondProgram(path));
+}
+
+TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
+    const Folder folder;
+    const std::string path = folder.file("copy.bmp");
+    for (const Depth& depth : depths()) {
+        SCOPED_TRACE(depth.name);
+        COrvDib dib, again;
+        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        dib.m_dRadian = 0.25;
+        const DWORD length = dib.GetFileLength();
+        ASSERT_TRUE(dib.CopyToMapFile(path.c_str()));
+        EXPECT_EQ(0.25, dib.GetRadian());
+        EXPECT_TRUE(dib.m_pMapView);
+        for (COrvDib* one : {&dib, &again}) {
+            for (int y = 0; y < 5; ++y)
+                for (int x = 0; x < 7; ++x)
+                    ASSERT_EQ(pictureColor(depth, x, y), colorOf(*one, x, y)) << x << ", " << y;
+            // It works in the file now.
+            dib.SetPiexelIndex(0, 0, dib.GetPixelIndex(0, 0));
+            dib.Empty();
+            const Bytes bytes = readFile(path);
+            EXPECT_EQ(length, bytes.size());
+            EXPECT_EQ(length, *reinterpret_cast<const DWORD*>(&bytes[2]));
+            ASSERT_TRUE(readBytes(again, bytes));
+        }
+    }
+    COrvDib empty, dib;
+    EXPECT_FALSE(empty.CopyToMapFile(folder.file("empty.bmp").c_str()));
+    ASSERT_TRUE(readBytes(dib, makeFile({})));
+    EXPECT_FALSE(dib.CopyToMapFile(folder.file("no folder\\x.bmp").c_str()));
+    EXPECT_EQ(7u, dib.GetPixelIndex(0, 0));
+    ASSERT_TRUE(dib.CopyToMapFile(path.c_str()));
+    EXPECT_FALSE(dib.CopyToMapFile(path.c_str())); // its own file
+    EXPECT_EQ(7u, dib.GetPixelIndex(0, 0));
+    EXPECT_EQ(1u, folder.names().size());
+}
+
+} // namespace

@@ -1,0 +1,272 @@
+// Bitmap files and archives, copies, pixels.
+
+#include "host.h"
+
+#include "support/debug_events.h"
+
+using namespace orv::test;
+
+namespace {
+
+bool isEmpty(const COrvDib& dib) {
+    return dib.m_pInfoHeader == NULL && dib.m_pBits == NULL && dib.m_hPal == NULL &&
+           dib.m_pColorTable == NULL && dib.GetSizeImage() == 0 && dib.GetFileLength() == 0 &&
+           dib.GetDimensions() == CSize(0, 0);
+}
+
+Bytes written(const COrvDib& dib) {
+    CMemFile file;
+    EXPECT_TRUE(dib.Write(&file));
+    Bytes bytes(size_t(file.GetLength()));
+    file.SeekToBegin();
+    file.Read(bytes.data(), UINT(bytes.size()));
+    return bytes;
+}
+
+TEST(BitmapFile, Kinds) {
+    for (const KindRow& row : kindRows()) {
+        SCOPED_TRACE(row.name);
+        DebugEvents events;
+        COrvDib dib;
+        ASSERT_TRUE(readBytes(dib, makeFile({.bitCount = 4})));
+        EXPECT_EQ(row.good, readBytes(dib, makeFile(row.spec)) != FALSE);
+        EXPECT_EQ(!row.good, isEmpty(dib));
+        EXPECT_EQ(0, events.assertions());
+        const bool otherHeader = row.spec.headerSize != 40;
+        EXPECT_EQ(otherHeader,
+                  events.text().find("Not a valid Windows bitmap -- probably an OS/2 bitmap\n") !=
+                      std::string::npos);
+    }
+    EXPECT_EQ(Messages(), takeMessages());
+}
+
+TEST(BitmapFile, CutAtEveryByteOfTheHeaders) {
+    const Bytes whole = makeFile({.bitCount = 4});
+    for (size_t length = 0; length < whole.size(); ++length) {
+        COrvDib dib;
+        EXPECT_FALSE(readBytes(dib, Bytes(whole.begin(), whole.begin() + length))) << length;
+        EXPECT_TRUE(isEmpty(dib)) << length;
+    }
+}
+
+// Written back as it came, but for the gap, what stood behind, and the size field of the file header.
+TEST(BitmapFile, RoundTrips) {
+    for (const KindRow& row : kindRows()) {
+        if (!row.good)
+            continue;
+        SCOPED_TRACE(row.name);
+        COrvDib dib;
+        const Bytes file = makeFile(row.spec);
+        ASSERT_TRUE(readBytes(dib, file));
+        const size_t headers = 14 + dib.GetSizeHeader();
+        Bytes expected(file.begin(), file.begin() + headers);
+        expected.insert(expected.end(), file.begin() + headers + row.spec.gap,
+                        file.begin() + headers + row.spec.gap + dib.GetSizeImage());
+        const DWORD rowsAt = DWORD(headers);
+        memcpy(&expected[10], &rowsAt, 4);
+        EXPECT_EQ(expected, written(dib));
+        EXPECT_EQ(expected.size(), dib.GetFileLength());
+        COrvDib again;
+        ASSERT_TRUE(readBytes(again, expected));
+        EXPECT_EQ(expected, written(again));
+    }
+}
+
+// Sizes on both sides of the row padding at every depth: each pixel is where it belongs.
+TEST(BitmapFile, PixelsOfEverySizeAndDepth) {
+    for (const Depth& depth : depths()) {
+        for (int width : {1, 2, 3, 4, 5, 7, 8, 9, 31, 32, 33}) {
+            SCOPED_TRACE(testing::Message() << depth.name << ", " << width << " wide");
+            COrvDib dib;
+            ASSERT_TRUE(readBytes(dib, pictureFile(depth, width, 3)));
+            ASSERT_EQ(CSize(width, 3), dib.GetDimensions());
+            EXPECT_EQ(width, dib.m_dWidth);
+            EXPECT_EQ(3, dib.m_dHeight);
+            for (int y = 0; y < 3; ++y)
+                for (int x = 0; x < width; ++x)
+                    ASSERT_EQ(pictureColor(depth, x, y), colorOf(dib, x, y)) << x << ", " << y;
+        }
+    }
+}
+
+TEST(BitmapFile, MetricsOfSmallBitmaps) {
+    COrvDib one, three;
+    ASSERT_TRUE(readBytes(one, makeFile({.width = 8, .height = 1, .bitCount = 1})));
+    EXPECT_EQ(2, one.m_nColorTableEntries);
+    EXPECT_EQ(62u, one.GetFileLength() - one.GetSizeImage());
+    ASSERT_TRUE(readBytes(three, makeFile({.width = 3, .height = 2, .bitCount = 24})));
+    EXPECT_EQ(24u, three.GetSizeImage());
+    const Bytes file = written(three);
+    EXPECT_EQ(Bytes({'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0}), Bytes(file.begin(), file.begin() + 14));
+}
+
+TEST(BitmapFile, TopDownRowsCountFromTheBottomToo) {
+    COrvDib up, down;
+    Bytes file = makeFile({.width = 4, .height = 3});
+    ASSERT_TRUE(readBytes(up, file));
+    ASSERT_TRUE(readBytes(down, makeFile({.width = 4, .height = -3})));
+    EXPECT_EQ(CSize(4, 3), down.GetDimensions());
+    EXPECT_EQ(3, down.m_dHeight);
+    for (int y = 0; y < 3; ++y)
+        EXPECT_EQ(up.GetPixelIndex(1, y), down.GetPixelIndex(1, 2 - y));
+}
+
+TEST(BitmapPixelCalls, OutsideThePictureAnswerNothing) {
+    COrvDib dib;
+    ASSERT_TRUE(readBytes(dib, makeFile({.width = 3, .height = 2, .rowsBytes = 8})));
+    ASSERT_TRUE(dib.SetPiexelIndex(2, 1, 0x1AB));
+    EXPECT_EQ(0xABu, dib.GetPixelIndex(2, 1));
+    const Bytes before = written(dib);
+    const struct {
+        int x, y;
+    } places[] = {{-1, 0}, {3, 0}, {0, -1}, {0, 2}, {INT_MAX, INT_MAX}, {INT_MIN, INT_MIN}, {0, INT_MAX}};
+    for (const auto& place : places) {
+        EXPECT_EQ(0u, dib.GetPixelIndex(place.x, place.y));
+        EXPECT_FALSE(dib.SetPiexelIndex(place.x, place.y, 0xFF));
+    }
+    EXPECT_EQ(before, written(dib));
+    COrvDib empty;
+    EXPECT_EQ(0u, empty.GetPixelIndex(0, 0));
+    EXPECT_FALSE(empty.SetPiexelIndex(0, 0, 1));
+}
+
+TEST(BitmapPixelCalls, RunLengthRowsHaveNoPixelsOfTheirOwn) {
+    COrvDib dib;
+    ASSERT_TRUE(readBytes(
+        dib,
+        makeFile({.width = 4, .height = 1, .compression = BI_RLE8, .sizeImage = 4, .runs = {4, 9, 0, 1}})));
+    EXPECT_EQ(0u, dib.GetPixelIndex(1, 0));
+    EXPECT_FALSE(dib.SetPiexelIndex(1, 0, 3));
+    ASSERT_TRUE(dib.Compress(NULL, FALSE));
+    EXPECT_EQ(9u, dib.GetPixelIndex(1, 0));
+    EXPECT_EQ(4u, dib.GetSizeImage());
+}
+
+// Palette entry i is colour table entry i, red first.
+TEST(BitmapPalette, FollowsTheColourTable) {
+    COrvDib dib;
+    DebugEvents events;
+    ASSERT_TRUE(readBytes(dib, makeFile({.colorsUsed = 5})));
+    EXPECT_EQ("COrvDib::MakePalette -- m_nColorTableEntries = 5\n", events.text());
+    PALETTEENTRY entries[6];
+    ASSERT_EQ(5u, ::GetPaletteEntries(dib.m_hPal, 0, 6, entries));
+    for (int i = 0; i < 5; ++i) {
+        const RGBQUAD color = tableColor(i);
+        EXPECT_EQ(RGB(color.rgbRed, color.rgbGreen, color.rgbBlue),
+                  RGB(entries[i].peRed, entries[i].peGreen, entries[i].peBlue));
+        EXPECT_EQ(0, entries[i].peFlags);
+    }
+    COrvDib plain;
+    ASSERT_TRUE(readBytes(plain, makeFile({.bitCount = 24})));
+    EXPECT_FALSE(plain.MakePalette());
+    EXPECT_EQ(NULL, plain.m_hPal);
+}
+
+// Of files made by ImageMagick.
+TEST(BitmapFile, OfAnotherProgram) {
+    static const COLORREF few[] = {RGB(255, 0, 0),     RGB(0, 255, 0), RGB(0, 0, 255),
+                                   RGB(255, 255, 255), RGB(0, 0, 0),   RGB(255, 255, 0)};
+    const struct {
+        const char* name;
+        int width;
+        COLORREF (*color)(int x, int y);
+    } rows[] = {
+        {"depth1.bmp", 7, [](int x, int y) { return (x + y * y) % 3 == 0 ? kWhite : RGB(0, 0, 0); }},
+        {"depth4.bmp", 7, [](int x, int y) { return few[(x * x + y) % 6]; }},
+        {"depth8.bmp", 7, [](int x, int y) { return RGB(x * 40, y * 50, x * y * 10); }},
+        {"depth24.bmp", 7, [](int x, int y) { return RGB(x * 40, y * 50, x * y * 10); }},
+        {"runs8.bmp", 37, [](int x, int y) { return few[x / (y + 2) % 6]; }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        COrvDib dib;
+        CFile file((std::string(BITMAP_DATA "/") + row.name).c_str(), CFile::modeRead | CFile::shareDenyNone);
+        ASSERT_TRUE(dib.Read(&file));
+        ASSERT_EQ(CSize(row.width, 5), dib.GetDimensions());
+        ASSERT_TRUE(dib.Compress(NULL, FALSE));
+        for (int y = 0; y < 5; ++y)
+            for (int x = 0; x < row.width; ++x)
+                ASSERT_EQ(row.color(x, y), colorOf(dib, x, y)) << x << ", " << y;
+    }
+}
+
+TEST(BitmapFile, FailuresOfWriting) {
+    const Folder folder;
+    writeFile(folder.file("x.bmp"), {});
+    COrvDib dib, empty;
+    ASSERT_TRUE(readBytes(dib, makeFile({})));
+    CFile file(folder.file("x.bmp").c_str(), CFile::modeRead);
+    EXPECT_FALSE(dib.Write(&file));
+    EXPECT_EQ(Messages({"write error"}), takeMessages());
+    CMemFile memory;
+    EXPECT_FALSE(empty.Write(&memory));
+    EXPECT_EQ(0u, memory.GetLength());
+    EXPECT_EQ(Messages(), takeMessages());
+}
+
+// In an archive, between other things; through pointers, too.
+TEST(BitmapArchive, KeepsAngleAndPicture) {
+    CMemFile file;
+    COrvDib dib;
+    ASSERT_TRUE(readBytes(dib, pictureFile(depths()[1], 5, 4)));
+    dib.m_dRadian = 0.75;
+    DebugEvents events;
+    {
+        CArchive ar(&file, CArchive::store);
+        ar << 11;
+        dib.Serialize(ar);
+        ar << &dib << 12;
+    }
+    EXPECT_EQ(0u, events.text().find("COrvDib::Serialize -- pos = 12\nCOrvDib::Serialize -- pos = 146\n"));
+    const ULONGLONG length = file.GetLength();
+    file.SeekToBegin();
+    CArchive ar(&file, CArchive::load);
+    int before = 0, after = 0;
+    COrvDib in;
+    COrvDib* pointed = NULL;
+    ar >> before;
+    in.Serialize(ar);
+    ar >> pointed >> after;
+    EXPECT_EQ(11, before);
+    EXPECT_EQ(12, after);
+    EXPECT_EQ(0.75, in.GetRadian());
+    EXPECT_EQ(written(dib), written(in));
+    ASSERT_TRUE(pointed);
+    EXPECT_EQ(written(dib), written(*pointed));
+    EXPECT_EQ(0.75, pointed->GetRadian());
+    EXPECT_EQ(length, file.GetPosition());
+    delete pointed;
+}
+
+TEST(BitmapArchive, ThrowsWhenItIsCutAnywhere) {
+    CMemFile file;
+    COrvDib dib;
+    ASSERT_TRUE(readBytes(dib, makeFile({.bitCount = 1})));
+    {
+        CArchive ar(&file, CArchive::store);
+        dib.Serialize(ar);
+    }
+    const int length = int(file.GetLength());
+    BYTE* bytes = file.Detach();
+    for (int cut = 0; cut < length; ++cut) {
+        CMemFile part(bytes, UINT(cut));
+        CArchive ar(&part, CArchive::load);
+        COrvDib in;
+        bool thrown = false;
+        try {
+            in.Serialize(ar);
+        } catch (CException* e) {
+            thrown =
+                e->IsKindOf(RUNTIME_CLASS(CFileException)) || e->IsKindOf(RUNTIME_CLASS(CArchiveException));
+            e->Delete();
+        }
+        EXPECT_TRUE(thrown && isEmpty(in)) << cut;
+        ar.Abort();
+    }
+    free(bytes);
+    CMemFile none;
+    CArchive ar(&none, CArchive::store);
+    EXPECT_THROW(COrvDib().Serialize(ar), CArchiveException*);
+}
+
+} // namespace
