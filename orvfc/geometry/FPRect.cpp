@@ -43,7 +43,7 @@ CFPRect::~CFPRect() = default;
 CFPRect& CFPRect::operator=(const CFPRect& r) = default;
 
 // Moved by the difference until the point reads back: a move across zero may shift it by a unit against its
-// anchor. That settles in three moves, or never.
+// anchor. That settles in four moves, or never.
 void orv::putAt(CFPRect& r, Place at, const CPoint& p, double angle) {
     for (int tries = 0; tries < 4; ++tries) {
         const CPoint now = turnedPoint(r, at, angle);

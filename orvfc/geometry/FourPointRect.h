@@ -300,7 +300,8 @@ public:
     CPoint GetSlopeCentre() const;
 
     // The size stays, odd ones too, and the point reads back as p; the slope points of a frame that reaches
-    // across an axis may lie a unit beside it, because halves are rounded by the side of zero they are on.
+    // across an axis may lie a unit or two beside it, because halves are rounded by the side of zero they are
+    // on.
     void PositionLeftMid(const CPoint& p);
     void PositionBottomMid(const CPoint& p);
     void PositionRightMid(const CPoint& p);

@@ -137,7 +137,7 @@ TYPED_TEST(FourPointMoves, MovedAndScaled) {
             EXPECT_NEAR(zoomed.GetHeight(), 60 * scale, 1e-9);
             EXPECT_EQ(zoomed.GetAngle(), angle);
         }
-    CFPRect cut(0, 0, 9, -9, 0);
+    CFPRect cut(-20, 0, -11, -9, 0);
     cut.Zoom(0.5);
     EXPECT_EQ(cut.GetWidth(), 4);
     EXPECT_EQ(cut.GetHeight(), -4);
@@ -204,6 +204,7 @@ TEST(FourPointDrag, NumbersThatAreNone) {
         EXPECT_EQ(r.GetAngle(), 0.25);
         CFPDRect spoilt(0, 0, bad, 10, 0);
         EXPECT_FALSE(spoilt.ZoomRectLeftTop(CPosition(1, 1)));
+        EXPECT_FALSE(r.PtOnRect(CPosition(bad, 1), infinity));
         EXPECT_FALSE(spoilt.RectInRect(CDouRect(-99, -99, 99, 99), 0, 0));
     }
 }
@@ -232,6 +233,7 @@ TEST(FourPointDrag, WholeUnitsStopAtTheEndsOfTheirRange) {
                 }
     CFPRect wide(-2000000000, 0, 2000000000, 0, 0);
     EXPECT_EQ(wide.GetWidth(), INT_MAX);
+    EXPECT_EQ(wide.GetPerimeter(), 8e9);
     wide.Move(CPoint(0, 0), CPoint(1, 0));
     EXPECT_EQ(sides(wide), Ltrb(-1999999999, 0, 2000000001, 0));
     wide.SetWidth(INT_MAX);

@@ -56,6 +56,8 @@ TEST(FourPointHits, ADisplayedCornerIsFoundByItsBorder) {
             EXPECT_EQ(r.PtOnRect((r.*h.slope)(), 2), onBorder) << h.name << " of " << r;
             EXPECT_TRUE(r.PtInRect((r.*h.slope)(), 2)) << h.name << " of " << r;
         }
+    EXPECT_TRUE(CFPRect(20, 10, 0, 0, 0).PtInRect(CPoint(22, -2), 3)); // negative sizes
+    EXPECT_FALSE(CFPRect(20, 10, 0, 0, 0).PtInRect(CPoint(23, 0), 3));
     EXPECT_FALSE(CFPRect(5, 5, 6, 9, 0).PtInRect(CPoint(5, 7), -1)); // thinner than the tolerance
 }
 
@@ -80,7 +82,7 @@ TEST(FourPointHits, APointOnTheBorderIsSnappedToIt) {
 }
 
 TEST(FourPointHits, CaughtByAWindow) {
-    const CFPDRect flat(0, 0, 20, 10, 0),
+    const CFPDRect flat(0, 0, 20, 10, 0), crossed(20, 10, 0, 0, 0),
         diamond(0, 10, 10, 20, pi / 4); // corners (0, 10), (7.07, 2.93), ...
     const struct {
         const CFPDRect& r;
@@ -101,6 +103,8 @@ TEST(FourPointHits, CaughtByAWindow) {
         {diamond, {0, 0, 2, 4}, 0, false, false}, // in the box, beside the slope
         {diamond, {0, 0, 2, 4}, 3.1, false, true},
         {diamond, {0, 0, 3, 8}, 0, false, true},
+        {diamond, {15, -20, 40, 40}, 0, false, false}, // beside the box
+        {crossed, {5, 4, 6, 5}, 0, false, true},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(row.r.RectInRect(row.window, row.tol, 0), row.wholly)

@@ -136,8 +136,21 @@ TYPED_TEST(FourPointPlaces, SettersOfOneValue) {
 TEST(FourPointIntPlaces, HalvesAreCutTowardZero) {
     CFPRect r(-4, -7, 1, 2, 0);
     EXPECT_EQ(Xy(r.GetCentre()), Xy(-1, -2));
-    r.SetCentreWidth(7);
-    EXPECT_EQ(sides(r), Ltrb(-4, -7, 2, 2));
+    r.SetRect(2, 20, 8, 30, 0);
+    r.SetCentreWidth(7); // 5 - 3, 5 + 3
+    r.SetCentreHeight(1);
+    EXPECT_EQ(sides(r), Ltrb(2, 25, 8, 25));
+}
+
+TEST(FourPointIntPlaces, AnUprightMiddleReadsBackOnBothSidesOfZero) {
+    for (int from = -9; from <= 9; ++from)
+        for (int to = -9; to <= 9; ++to)
+            for (int w = -5; w <= 5; ++w) {
+                CFPRect r(from, 0, from + w, 5, 0);
+                r.PositionBottomMid(CPoint(to, 3));
+                EXPECT_EQ(Xy(r.GetBottomMid()), Xy(to, 3)) << r;
+                EXPECT_EQ(r.GetWidth(), w) << r;
+            }
 }
 
 TYPED_TEST(FourPointPlaces, FromPoints) {
