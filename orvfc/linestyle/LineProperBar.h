@@ -36,8 +36,8 @@ public:
 
     // Stores every pattern, but loads only types 5 and 101 (as the zig-zag): the fields of any other entry
     // are not read, and all that follows it in the file is read out of step. Older files are made that way; a
-    // set that was saved as built in comes back with its zig-zag alone. When loading throws, the set is as
-    // before.
+    // set that was saved as built in comes back with its zig-zag alone. What was loaded takes the place of
+    // the patterns that were there; when loading throws, the set is as before.
     void Serialize(CArchive& ar) override;
 
     // The name only: a directory in strFile is dropped, so that the file is looked for in the current

@@ -10,7 +10,16 @@ template class COrvNamedSet<LineWidthStruct, double>;
 
 namespace {
 
-constexpr double kBuiltIn[] = {0.5, 1, 2, 3, 4, 5, 6, 8, 12, 15, 20, 25};
+// The names are fixed texts: formatted, they would follow the host's locale ("0,5").
+constexpr struct {
+    const char* lpszMillimetres;
+    const char* lpszPixels; // null: there are no half pixels
+    double dWidth;
+} kBuiltIn[] = {
+    {"0.5毫米", NULL, 0.5},   {"1毫米", "1象素", 1},    {"2毫米", "2象素", 2},    {"3毫米", "3象素", 3},
+    {"4毫米", "4象素", 4},    {"5毫米", "5象素", 5},    {"6毫米", "6象素", 6},    {"8毫米", "8象素", 8},
+    {"12毫米", "12象素", 12}, {"15毫米", "15象素", 15}, {"20毫米", "20象素", 20}, {"25毫米", "25象素", 25},
+};
 constexpr double kOther = 1.0;
 
 } // namespace
@@ -45,13 +54,9 @@ void CLineWidthSet::Init() {
 }
 
 int CLineWidthSet::AddGerLineWidth(int bMillimetre) {
-    for (double dWidth : kBuiltIn) {
-        if (!bMillimetre && dWidth < 1.0) // no half pixels
-            continue;
-        CString strName;
-        strName.Format(bMillimetre ? _T("%g毫米") : _T("%g象素"), dWidth);
-        AddItem(strName, dWidth);
-    }
+    for (const auto& row : kBuiltIn)
+        if (const char* lpszName = bMillimetre ? row.lpszMillimetres : row.lpszPixels)
+            AddItem(lpszName, row.dWidth);
     return AddItem(_T("其它..."), kOther);
 }
 

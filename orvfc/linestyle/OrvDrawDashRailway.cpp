@@ -36,24 +36,30 @@ double COrvDrawDashRailway::GetLength(int) {
 
 int COrvDrawDashRailway::DrawDash(double x1, double y1, double x2, double y2, int nIndex) {
     const double dDistance = GetDistance(x1, y1, x2, y2);
-    if (m_bMoveToNew && dDistance < orv::kWalkZero)
-        return 1;
     m_nPhase = nIndex & 1;
+    if (m_bMoveToNew && dDistance < orv::kWalkZero) {
+        FinishPiece(dDistance);
+        return 1;
+    }
     const orv::RailPiece piece = {x1, y1, x2, y2, m_nGauge};
     const orv::RailCorners corners =
         m_bMoveToNew ? orv::firstRailCorners(piece) : orv::nextRailCorners(piece, {m_ptLastL, m_ptLastR});
     m_ptLastE = {orv::truncToInt(x2), orv::truncToInt(y2)};
     m_ptLastL = corners.to.left;
     m_ptLastR = corners.to.right;
-    m_dRemain -= dDistance;
     if (m_nPhase == 0)
         orv::strokeRails(m_hDC, m_crColor0, m_crColor1, corners, m_bMoveToNew != 0);
     else
         orv::fillRailBlock(m_hDC, m_crColor0, corners);
-    if (m_dRemain < orv::kPieceEnd)
-        m_dRemain = m_nPhase == 0 ? m_nLen1 : m_nLen0;
+    FinishPiece(dDistance);
     m_bMoveToNew = 0;
     return 1;
+}
+
+void COrvDrawDashRailway::FinishPiece(double dDistance) {
+    m_dRemain -= dDistance;
+    if (m_dRemain < orv::kPieceEnd)
+        m_dRemain = m_nPhase == 0 ? m_nLen1 : m_nLen0;
 }
 
 int COrvDrawDashRailway::GetDashType() {

@@ -21,6 +21,8 @@ public:
 
     COrvDrawDashRailway();
     explicit COrvDrawDashRailway(HDC hDC);
+    COrvDrawDashRailway(const COrvDrawDashRailway&) = default;
+    COrvDrawDashRailway& operator=(const COrvDrawDashRailway&) = default;
 
     // Sets every default but the stored points.
     void Init();
@@ -41,5 +43,6 @@ public:
     void Dump(CDumpContext& dc) const;
 
 private:
+    void FinishPiece(double dDistance);
     void StrokeClosing();
 };

@@ -36,6 +36,7 @@ int COrvDrawDashWeaver::DrawDash(double x1, double y1, double x2, double y2, int
     const POINT peak = m_nPhase == 0 ? POINT{orv::truncToInt(px), orv::truncToInt(py)}
                                      : POINT{orv::truncToInt(qx), orv::truncToInt(qy)};
     const POINT tent[] = {from, peak, {orv::truncToInt(x2), orv::truncToInt(y2)}};
+    m_bMoveToNew = 0;
     orv::strokePolyline(m_hDC, {PS_SOLID, m_nWidth, m_crColor}, tent, 3);
     return 0; // ends the walk, drawn or not
 }

@@ -16,6 +16,8 @@ public:
 
     COrvDrawDashWeaver();
     explicit COrvDrawDashWeaver(HDC hDC);
+    COrvDrawDashWeaver(const COrvDrawDashWeaver&) = default;
+    COrvDrawDashWeaver& operator=(const COrvDrawDashWeaver&) = default;
 
     void Init();
 

@@ -35,6 +35,9 @@ public:
     POINT m_ptLastB;  // the same: where the next piece starts
     POINT m_ptLastC;  // where the closing stroke goes; no drawing ever sets it
 
+    COrvDrawOnOffDash(const COrvDrawOnOffDash&) = default;
+    COrvDrawOnOffDash& operator=(const COrvDrawOnOffDash&) = default;
+
     // Sets every default but the stored points.
     void Init();
 
@@ -71,6 +74,8 @@ class ORVFC_API COrvDrawDashDash : public COrvDrawOnOffDash<OrvTwoKinds> {
 public:
     COrvDrawDashDash();
     explicit COrvDrawDashDash(HDC hDC);
+    COrvDrawDashDash(const COrvDrawDashDash&) = default;
+    COrvDrawDashDash& operator=(const COrvDrawDashDash&) = default;
 };
 
 // Type 2: dot 5, gap 5. The gap's colour is the line's.
@@ -78,6 +83,8 @@ class ORVFC_API COrvDrawDashDot : public COrvDrawOnOffDash<OrvTwoKinds> {
 public:
     COrvDrawDashDot();
     explicit COrvDrawDashDot(HDC hDC);
+    COrvDrawDashDot(const COrvDrawDashDot&) = default;
+    COrvDrawDashDot& operator=(const COrvDrawDashDot&) = default;
 };
 
 // Type 3: dash 17, gap 5, dot 5, gap 5. The gap's colour stays white.
@@ -85,6 +92,8 @@ class ORVFC_API COrvDrawDashDotDot : public COrvDrawOnOffDash<OrvThreeKinds> {
 public:
     COrvDrawDashDotDot();
     explicit COrvDrawDashDotDot(HDC hDC);
+    COrvDrawDashDotDot(const COrvDrawDashDotDot&) = default;
+    COrvDrawDashDotDot& operator=(const COrvDrawDashDotDot&) = default;
 };
 
 // Type 4: dash 17, gap 6, dot 5, gap 6, dot 5, gap 6. The gap's colour is the complement of the line's.
@@ -92,4 +101,6 @@ class ORVFC_API COrvDrawDashDotDotTwice : public COrvDrawOnOffDash<OrvThreeKinds
 public:
     COrvDrawDashDotDotTwice();
     explicit COrvDrawDashDotDotTwice(HDC hDC);
+    COrvDrawDashDotDotTwice(const COrvDrawDashDotDotTwice&) = default;
+    COrvDrawDashDotDotTwice& operator=(const COrvDrawDashDotDotTwice&) = default;
 };

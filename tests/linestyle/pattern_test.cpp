@@ -125,6 +125,8 @@ TEST(Pattern, NegativePieceNumbers) {
     COrvDrawDashDash dash(sheet.dc());
     dash.DrawDash(0, 0, 6, 0, -2); // two phases alternate all the same
     EXPECT_EQ(0, dash.m_nPhase);
+    dash.DrawDash(6, 0, 9, 0, -1);
+    EXPECT_EQ(1, dash.m_nPhase);
     EXPECT_EQ(Seen{"0,0 6,0 w1 000000"}, sheet.take());
 }
 
@@ -267,7 +269,6 @@ TEST(Railway, SharesCornersAndDoesNotCrossAfterASharpTurn) {
     } const rows[] = {
         {"left turn", 120, 80, {"block 120,95 119,105 125,80 115,79 120,95 w1 000000 fill 000000"}},
         {"back", 100, 100, {"block 120,95 119,105 99,105 100,95 120,95 w1 000000 fill 000000"}},
-        {"no direction", 120, 100, {"block 120,95 119,105 119,105 120,95 120,95 w1 000000 fill 000000"}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -279,6 +280,25 @@ TEST(Railway, SharesCornersAndDoesNotCrossAfterASharpTurn) {
         railway.DrawDash(120, 100, row.x, row.y, 1);
         EXPECT_EQ(row.expected, sheet.take());
     }
+}
+
+TEST(Railway, KeepsItsCornersOverAPieceWithoutLength) {
+    Sheet sheet;
+    COrvDrawDashRailway railway;
+    railway.DrawDash(100, 100, 100, 80, 0);
+    railway.m_hDC = sheet.dc();
+    railway.DrawDash(100, 80, 100, 80, 1);
+    EXPECT_EQ(Seen{"block 95,79 105,80 105,80 95,79 95,79 w1 000000 fill 000000"}, sheet.take());
+}
+
+TEST(Railway, SectionLengths) {
+    COrvDrawDashRailway railway;
+    railway.m_nLen0 = 7;
+    railway.m_nLen1 = 9;
+    railway.DrawDash(0, 0, 20, 0, 0);
+    EXPECT_EQ(9, railway.GetLength(1)) << "filled";
+    railway.DrawDash(20, 0, 29, 0, 1);
+    EXPECT_EQ(7, railway.GetLength(2)) << "hollow";
 }
 
 TEST(Railway, WaitsForADirectionBeforeItStarts) {
