@@ -67,6 +67,8 @@ inline bool isOnArc(double angle, double start, double end, double tolerance) {
     if (sweep <= same || sweep >= wholeTurn - same)
         sweep = wholeTurn;
     sweep += 2 * tolerance;
+    if (sweep >= wholeTurn)
+        return angle - angle == 0; // every direction, but no infinite one
     const double past = withinTurn(angle - start + tolerance);
     return past <= sweep;
 }

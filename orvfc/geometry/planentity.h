@@ -40,6 +40,15 @@ public:
     // 1 is y; every other index is x, which callers rely on.
     double& operator[](const int& i);
     const double& operator[](const int& i) const; // otherwise a const point's index would go past its fields
+    // Any other whole number: without these the compiler hesitates between the index and the pointers below.
+    template <orv::WholeNumber T>
+    double& operator[](T i) {
+        return (*this)[i == 1 ? 1 : 0];
+    }
+    template <orv::WholeNumber T>
+    const double& operator[](T i) const {
+        return (*this)[i == 1 ? 1 : 0];
+    }
 
     operator const double*() const;
     operator double*();

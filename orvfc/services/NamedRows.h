@@ -50,7 +50,9 @@ int COrvNamedSet<Row, Value>::AddItem(const COrvNamedSet& other) {
 
 template <class Row, class Value>
 int COrvNamedSet<Row, Value>::AddItem(const CDynamicPtrArray<Row>& rows) {
-    for (int i = 0; i < rows.GetSize(); ++i)
+    // A width that is not a number equals no row, not even itself: only the rows that were there are walked.
+    const auto nRows = &rows == &m_rows ? 0 : rows.GetSize();
+    for (int i = 0; i < nRows; ++i)
         if (FindItem(rows[i]) < 0)
             AddItem(rows[i]);
     return 1;

@@ -17,7 +17,8 @@ public:
     // The host program's directory with a trailing backslash; empty when the system does not tell.
     static CString GetAppPath();
     static CString GetAppPathAbsolute(); // the same
-    // How many lines the mouse wheel scrolls, by the user's desktop setting; 3 without one. 0xFFFFFFFF (also
+    // How many lines the mouse wheel scrolls, by the user's desktop setting; 3 without one, and when the
+    // value is no text. 0xFFFFFFFF (also
     // for anything larger) means a page.
     static UINT GetMouseScrollLines();
 

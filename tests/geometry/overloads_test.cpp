@@ -29,6 +29,9 @@ TEST(Overloads, AnIndexIsNeverPointerArithmetic) {
     EXPECT_EQ(p[one], 4);
     EXPECT_EQ(p[two], 3);
     EXPECT_EQ(p[alsoOne], 4);
+    EXPECT_EQ(p[INT_PTR(1)], 4);
+    EXPECT_EQ(p[size_t(7)], 3);
+    EXPECT_EQ(p[-1LL], 3);
     EXPECT_EQ(fixed[1], 4);
     EXPECT_EQ(fixed[7], 3);
     p[7] = 5;

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <math.h>
+
 #include "stored.h"
 
 #include <string>
@@ -103,6 +105,11 @@ TEST(Catalogue, MergingAddsOnlyWhatIsMissing) {
     rows.Add(new LineTypeStruct("散", 1));
     EXPECT_EQ(1, set.AddItem(rows));
     EXPECT_EQ(11, set.GetSize());
+
+    CLineWidthSet widths;
+    widths.AddItem("no number", NAN); // equals no row, not even itself
+    EXPECT_EQ(1, widths.AddItem(widths));
+    EXPECT_EQ(14, widths.GetSize());
 }
 
 TEST(Catalogue, Rows) {

@@ -78,6 +78,7 @@ TEST(Turns, ArcBounds) {
         {1, 0, nan, tol, false},
         {1, 0, 2, nan, false},
         {inf, 1, 1, tol, false},
+        {3, 0, 1, inf, true},
     };
     for (const auto& r : rows)
         EXPECT_EQ(IsArcAngleInBounds(r.angle, r.start, r.end, r.tolerance) != 0, r.inside)
