@@ -66,8 +66,11 @@ endfunction()
 
 orv_check_folder(${PROJECT_SOURCE_DIR})
 
-# Each public header is read alone: it can be included first.
-foreach(header IN LISTS ORV_PUBLIC_HEADERS ORV_FOUNDATION_HEADERS)
+# Each public header is read alone: it can be included first. Those of the foundation that end in an underscore are
+# pieces of the others.
+set(alone ${ORV_PUBLIC_HEADERS} ${ORV_FOUNDATION_HEADERS})
+list(FILTER alone EXCLUDE REGEX "_\\.h$")
+foreach(header IN LISTS alone)
   string(REPLACE "/" "_" name ${header})
   set(stamp ${CMAKE_BINARY_DIR}/syntax/${name}.ok)
   add_custom_command(
