@@ -33,7 +33,9 @@ private:
         ++x_;
     }
     // Pixel i of bytes that hold one or two pixels each.
-    DWORD pixelOf(const BYTE* bytes, int i) const { return getPixel(bytes, i, layout_.bitCount); }
+    DWORD pixelOf(const BYTE* bytes, int i) const {
+        return layout_.bitCount == 4 ? bytes[i / 2] >> (i % 2 != 0 ? 0 : 4) & 0xF : bytes[i];
+    }
 
     const DibLayout& layout_;
     const int lineEnd_; // some programs run on over what a row is filled up with
