@@ -4,6 +4,8 @@
 
 #include "support/debug_events.h"
 
+#include <psapi.h>
+
 using namespace orv::test;
 
 namespace {
@@ -202,6 +204,24 @@ TEST(BitmapFile, FailuresOfWriting) {
     EXPECT_FALSE(empty.Write(&memory));
     EXPECT_EQ(0u, memory.GetLength());
     EXPECT_EQ(Messages(), takeMessages());
+}
+
+// A second copy, even for a moment, would show in the peak.
+TEST(BitmapFile, IsReadIntoMemoryOnce) {
+    const Folder folder;
+    const std::string path = folder.file("large.bmp");
+    constexpr DWORD rows = 4096 * 4096 * 4;
+    writeFile(path, makeFile({.width = 4096, .height = 4096, .bitCount = 32, .rowsBytes = 0}));
+    CFile file(path.c_str(), CFile::modeReadWrite);
+    file.SetLength(54 + rows);
+    file.SeekToBegin();
+    PROCESS_MEMORY_COUNTERS before = {}, after = {};
+    ASSERT_TRUE(::GetProcessMemoryInfo(::GetCurrentProcess(), &before, sizeof(before)));
+    COrvDib dib;
+    ASSERT_TRUE(dib.Read(&file));
+    ASSERT_TRUE(::GetProcessMemoryInfo(::GetCurrentProcess(), &after, sizeof(after)));
+    EXPECT_GE(after.PeakWorkingSetSize - before.WorkingSetSize, rows / 10 * 9);
+    EXPECT_LE(after.PeakWorkingSetSize - before.WorkingSetSize, rows / 10 * 12);
 }
 
 // In an archive, between other things; through pointers, too.
