@@ -5,6 +5,7 @@ namespace gallery {
 std::span<const Sheet> sheets() {
     static const Sheet all[] = {
         {"lines", 1280, 1160, drawLineSheet},
+        {"bitmaps", 1280, 1500, drawBitmapSheet, writeBitmapSamples},
         {"time-scales", 1280, 1300, drawTimeScaleSheet},
         {"about", 1280, 760, drawAboutSheet},
     };

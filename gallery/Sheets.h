@@ -12,6 +12,9 @@ struct Sheet {
     int width;        // pixels
     int height;
     void (*draw)(CDC& dc); // on white paper of this size
+    // Writes the files that belong beside the picture; false when one cannot be written. NULL: there are
+    // none.
+    bool (*writeBeside)(const CString& folder) = NULL;
 };
 
 std::span<const Sheet> sheets();
@@ -19,5 +22,7 @@ std::span<const Sheet> sheets();
 void drawLineSheet(CDC& dc);
 void drawTimeScaleSheet(CDC& dc);
 void drawAboutSheet(CDC& dc);
+void drawBitmapSheet(CDC& dc);
+bool writeBitmapSamples(const CString& folder);
 
 } // namespace gallery

@@ -34,6 +34,10 @@ ExitStatus runTour(const Options& options) {
             std::fprintf(stderr, "%s\n", static_cast<LPCSTR>(message));
             return exitNoPicture;
         }
+        if (sheet.writeBeside != NULL && !sheet.writeBeside(folder)) {
+            std::fprintf(stderr, "%s: a file beside it cannot be written\n", static_cast<LPCSTR>(name));
+            return exitNoPicture;
+        }
         std::printf("%s\n", static_cast<LPCSTR>(name));
     }
     return exitDone;
