@@ -31,9 +31,9 @@ public:
     HGLOBAL m_hMemBlock;             // global block that holds the header, when there is one
     int m_nHeaderOwner;              // Owner of the header's block
     int m_nBitsOwner;                // Owner of the rows' block
-    DWORD m_dwImageBytes;            // of the rows
-    int m_nColorTableEntries;        // 0 to 256
-    HANDLE m_hMapFile;               // of the attached file; NULL: none
+    DWORD m_dwImageBytes;     // of the rows: the header's size field, or what they need when that says less
+    int m_nColorTableEntries; // 0 to 256
+    HANDLE m_hMapFile;        // of the attached file; NULL: none
     HANDLE m_hMapping;
     LPVOID m_pMapView;
     HPALETTE m_hPal;  // of MakePalette or SetSystemPalette; NULL: none
@@ -117,7 +117,8 @@ public:
     // else is touched. Only what is inside the clipping box is worked out.
     BOOL Draw(CDC* pDC, CPoint origin, CSize size, double angle);
     // Rows for a header that has none, all zero: a DIB section, which the object keeps. NULL when there is
-    // no header, when there are rows already, and on failure. pDC may be NULL.
+    // no header, when there are rows already, and on failure. pDC may be NULL. After drawing into the section
+    // a host calls GdiFlush before it asks for pixels.
     HBITMAP CreateSection(CDC* pDC = NULL);
     // A new device bitmap of the picture, which the caller deletes; NULL on failure.
     HBITMAP CreateBitmap(CDC* pDC);
@@ -127,9 +128,9 @@ public:
     BOOL Compress(CDC* pDC, int compress = TRUE);
     // Turns the pixels by angle in radians, counter-clockwise; the picture grows to the upright box of what
     // is turned, whose corners become white (or the colour that comes nearest to it). Depth, colours and row
-    // order stay; run-length rows become plain ones. It goes through a file "Orvbmp.tmp" in a temporary
-    // folder of its own, which is removed; when that cannot be written the message is "Couldn't open source
-    // file: " and its name. On FALSE the bitmap stays as it was.
+    // order stay; run-length rows become plain ones; the result lies in memory of its own. It goes through a
+    // file "Orvbmp.tmp" in a temporary folder of its own, which is removed; when that cannot be written the
+    // message is "Couldn't open source file: " and its name. On FALSE the bitmap stays as it was.
     BOOL Rotation(double angle);
 
     void Dump(CDumpContext& dc) const override;

@@ -127,6 +127,12 @@ TEST(BitmapPixelCalls, OutsideThePictureAnswerNothing) {
         EXPECT_FALSE(dib.SetPiexelIndex(place.x, place.y, 0xFF));
     }
     EXPECT_EQ(before, written(dib));
+    // A host that changes the header gets no more rows than there are.
+    dib.m_pInfoHeader->biHeight = 1000000;
+    EXPECT_EQ(0u, dib.GetPixelIndex(0, 999999));
+    EXPECT_FALSE(dib.SetPiexelIndex(0, 999999, 1));
+    Paper paper(4, 4);
+    EXPECT_FALSE(dib.Draw(&paper.dc, CPoint(0, 0), CSize(4, 4)));
     COrvDib empty;
     EXPECT_EQ(0u, empty.GetPixelIndex(0, 0));
     EXPECT_FALSE(empty.SetPiexelIndex(0, 0, 1));
