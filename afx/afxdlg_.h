@@ -29,7 +29,8 @@ public:
     // What EndDialog was told; -1 when the dialog cannot be made or the program ends, IDABORT when the window
     // was destroyed from outside.
     virtual INT_PTR DoModal();
-    // Hides the dialog and lets DoModal return. From OnInitDialog too: the dialog is then never seen.
+    // Lets DoModal return; a modeless dialog is only hidden. From OnInitDialog too: the dialog is then never
+    // seen.
     void EndDialog(int nResult);
 
     void NextDlgCtrl() const { ::SendMessageA(m_hWnd, WM_NEXTDLGCTL, 0, 0); }

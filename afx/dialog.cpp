@@ -70,15 +70,17 @@ HWND modalOwner(CWnd* parent) {
 }
 
 OwnerDisabled::OwnerDisabled(HWND owner)
-    : owner_(owner && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner) ? owner : NULL) {
-    if (owner_)
+    : owner_(owner), disabled_(owner && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner)) {
+    if (disabled_)
         ::EnableWindow(owner_, FALSE);
 }
 
-void OwnerDisabled::enable() {
-    if (owner_)
+void OwnerDisabled::giveBack(HWND dialog) {
+    if (disabled_)
         ::EnableWindow(owner_, TRUE);
-    owner_ = NULL;
+    disabled_ = false;
+    if (owner_ && dialog && ::GetActiveWindow() == dialog)
+        ::SetActiveWindow(owner_);
 }
 
 } // namespace orvafx
@@ -102,15 +104,11 @@ int CDialog::RunOver(HWND hWndOwner, LPCDLGTEMPLATE lpTemplate, HINSTANCE hInst)
     if (CreateDlgIndirect(lpTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
         if (m_nFlags & WF_CONTINUEMODAL)
             RunModalLoop((GetStyle() & DS_NOIDLEMSG) ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
-        if (m_hWnd)
-            SetWindowPos(NULL, 0, 0, 0, 0,
-                         SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     }
     m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL);
-    // Enabled before the dialog goes, or the system would activate another program's window.
-    disabled.enable();
-    if (hWndOwner && m_hWnd && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(hWndOwner);
+    // The owner is enabled and active again before the dialog goes: or the system would first look for
+    // another program's window to activate.
+    disabled.giveBack(m_hWnd);
     DestroyWindow();
     return m_nModalResult;
 }
@@ -118,7 +116,7 @@ int CDialog::RunOver(HWND hWndOwner, LPCDLGTEMPLATE lpTemplate, HINSTANCE hInst)
 void CDialog::EndDialog(int nResult) {
     if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL))
         EndModalLoop(nResult);
-    if (m_hWnd)
+    else if (m_hWnd)
         ::EndDialog(m_hWnd, nResult);
 }
 

@@ -201,7 +201,6 @@ CPropertySheet::~CPropertySheet() = default;
 void CPropertySheet::CommonConstruct(CWnd* pParentWnd, UINT iSelectPage) {
     memset(&m_psh, 0, sizeof m_psh);
     m_psh.dwSize = sizeof m_psh;
-    m_psh.dwFlags = PSH_PROPTITLE;
     m_psh.pszCaption = m_strCaption;
     m_psh.nStartPage = iSelectPage;
     m_pParentWnd = pParentWnd;
@@ -284,13 +283,8 @@ int CPropertySheet::RunOver(HWND hWndOwner) {
         return -1;
     m_nFlags |= WF_CONTINUEMODAL;
     const int result = RunModalLoop(MLF_SHOWONIDLE);
-    disabled.enable();
-    if (m_hWnd) {
-        ::ShowWindow(m_hWnd, SW_HIDE);
-        if (hWndOwner && ::GetActiveWindow() == m_hWnd)
-            ::SetActiveWindow(hWndOwner);
-        DestroyWindow();
-    }
+    disabled.giveBack(m_hWnd);
+    DestroyWindow();
     return result;
 }
 
@@ -419,7 +413,7 @@ BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage) {
 void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle) {
     m_strCaption = lpszText;
     m_psh.pszCaption = m_strCaption;
-    m_psh.dwFlags = (m_psh.dwFlags & ~static_cast<DWORD>(PSH_PROPTITLE)) | nStyle;
+    m_psh.dwFlags = m_psh.dwFlags | nStyle;
     if (m_hWnd)
         ::SendMessageA(m_hWnd, PSM_SETTITLEA, nStyle, reinterpret_cast<LPARAM>(lpszText));
 }

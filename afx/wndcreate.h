@@ -44,13 +44,15 @@ HWND modalOwner(CWnd* parent);
 class OwnerDisabled {
 public:
     explicit OwnerDisabled(HWND owner);
-    ~OwnerDisabled() { enable(); }
+    ~OwnerDisabled() { giveBack(NULL); }
     OwnerDisabled(const OwnerDisabled&) = delete;
     OwnerDisabled& operator=(const OwnerDisabled&) = delete;
-    void enable();
+    // The owner is enabled, and active when the dialog was.
+    void giveBack(HWND dialog);
 
 private:
     HWND owner_;
+    bool disabled_;
 };
 
 bool isModuleOfChain(HINSTANCE module);

@@ -1,0 +1,283 @@
+// A host driven from outside by mouse and keyboard, as its user does.
+
+#include "host_process.h"
+#include "resource.h"
+
+#include "support/input.h"
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+using namespace orv::test;
+
+namespace {
+
+// A file of this run in the temporary folder, gone at the end.
+class PlanFile {
+public:
+    PlanFile() {
+        char folder[MAX_PATH], name[MAX_PATH];
+        ::GetTempPathA(MAX_PATH, folder);
+        ::GetTempFileNameA(folder, "pln", 0, name);
+        name_ = name;
+    }
+    ~PlanFile() { ::DeleteFileA(name_.c_str()); }
+    const std::string& name() const { return name_; }
+
+private:
+    std::string name_;
+};
+
+HWND item(HWND dialog, int id) {
+    return ::GetDlgItem(dialog, id);
+}
+
+class Host : public testing::Test {
+protected:
+    PlanFile file;
+
+    // Fills the item dialog by keys alone and confirms it.
+    static void addItem(HostProcess& host, const char* name, const char* count, int symbol) {
+        pressKey(VK_CONTROL, 'D');
+        HWND dialog = host.dialog("项目");
+        ASSERT_TRUE(dialog);
+        ASSERT_TRUE(host.waitFocus(item(dialog, IDC_NAME)));
+        EXPECT_FALSE(::IsWindowEnabled(host.frame()));
+        pressKey(VK_HOME);
+        pressKey(VK_SHIFT, VK_END);
+        typeText(wideText(name));
+        EXPECT_TRUE(host.waitText(item(dialog, IDC_NAME), name));
+        pressKey(VK_TAB);
+        ASSERT_TRUE(host.waitFocus(item(dialog, IDC_COUNT)));
+        typeText(wideText(count));
+        EXPECT_TRUE(host.waitText(item(dialog, IDC_COUNT), count));
+        pressKey(VK_TAB);
+        ASSERT_TRUE(host.waitFocus(item(dialog, IDC_SYMBOL)));
+        char picked[16];
+        for (int i = 0; i <= symbol; ++i) {
+            pressKey(VK_DOWN);
+            // The combo's own reflected handler posts to its parent, and the parent's handler runs as well.
+            wsprintfA(picked, "%d/%d", i + 1, i + 1);
+            EXPECT_TRUE(host.waitText(item(dialog, IDC_PICKED), picked));
+        }
+        pressKey(VK_RETURN);
+        EXPECT_TRUE(host.waitGone(dialog));
+        EXPECT_TRUE(host.waitReady(host.frame()));
+    }
+
+    static void leave(HostProcess& host) {
+        ASSERT_TRUE(host.waitReady(host.frame()));
+        pressKey(VK_MENU, VK_F4);
+        EXPECT_EQ(0, host.waitExit());
+    }
+};
+
+TEST_F(Host, ItemsAreAddedSavedAndLoadedByAnotherRun) {
+    {
+        HostProcess host("host.exe", file.name());
+        ASSERT_TRUE(host.frame());
+        addItem(host, "铁路线", "3", 0);
+        EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 [ 500]"));
+        addItem(host, "村庄 No.7", "100", 1);
+        EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500]"));
+        pressKey(VK_CONTROL, 'S');
+        EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500] 已保存"));
+        leave(host);
+    }
+    HostProcess host("host_console.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    pressKey(VK_CONTROL, 'O');
+    EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500]"));
+    leave(host);
+}
+
+TEST_F(Host, ARefusedValueKeepsTheDialogAndMarksTheField) {
+    HostProcess host("host.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    pressKey(VK_CONTROL, 'D');
+    HWND dialog = host.dialog("项目");
+    ASSERT_TRUE(dialog);
+    HWND count = item(dialog, IDC_COUNT);
+    for (const char* refused : {"500", "0", "12x", "99999999999"}) {
+        click(count);
+        ASSERT_TRUE(host.waitFocus(count));
+        pressKey(VK_HOME);
+        pressKey(VK_SHIFT, VK_END);
+        typeText(wideText(refused));
+        ASSERT_TRUE(host.waitText(count, refused));
+        pressKey(VK_RETURN);
+        HWND box = host.dialog("host");
+        ASSERT_TRUE(box) << refused;
+        EXPECT_FALSE(::IsWindowEnabled(dialog)) << refused;
+        pressKey(VK_RETURN);
+        EXPECT_TRUE(host.waitGone(box));
+        EXPECT_TRUE(host.waitReady(dialog) && host.waitFocus(count)) << refused;
+    }
+    // The refused text is marked: typing replaces it.
+    typeText(L"7");
+    EXPECT_TRUE(host.waitText(count, "7"));
+    pressKey(VK_RETURN);
+    EXPECT_TRUE(host.waitTitle("计划: 项目*7- [ 500]"));
+    leave(host);
+}
+
+TEST_F(Host, MouseAndASubclassedFieldWorkInTheDialog) {
+    HostProcess host("host.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    pressKey(VK_CONTROL, 'D');
+    HWND dialog = host.dialog("项目");
+    ASSERT_TRUE(dialog);
+    click(item(dialog, IDC_VISIBLE));
+    EXPECT_TRUE(waitUntil([&] { return ::SendMessageA(item(dialog, IDC_VISIBLE), BM_GETCHECK, 0, 0) == 0; }));
+    click(item(dialog, IDC_DOUBLE));
+    EXPECT_TRUE(waitUntil([&] { return ::SendMessageA(item(dialog, IDC_DOUBLE), BM_GETCHECK, 0, 0) == 1; }));
+    HWND note = item(dialog, IDC_NOTE);
+    click(note);
+    ASSERT_TRUE(host.waitFocus(note));
+    typeText(wideText("备#注壹"));
+    EXPECT_TRUE(host.waitText(note, "备注壹"));
+    click(item(dialog, IDOK));
+    EXPECT_TRUE(host.waitGone(dialog));
+    EXPECT_TRUE(host.waitTitle("计划: (项目备注壹*1-=) [ 500]"));
+    leave(host);
+}
+
+TEST_F(Host, CancelledDialogsChangeNothing) {
+    HostProcess host("host.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    addItem(host, "桥", "2", 1);
+    const std::string title = "计划: 桥*2方 [ 500]";
+    ASSERT_TRUE(host.waitTitle(title));
+    const struct {
+        const char* how;
+        void (*close)(HWND dialog);
+    } rows[] = {{"Esc", [](HWND) { pressKey(VK_ESCAPE); }},
+                {"close box", [](HWND) { pressKey(VK_MENU, VK_F4); }},
+                {"button", [](HWND dialog) { click(item(dialog, IDCANCEL)); }}};
+    for (const auto& row : rows)
+        for (const char* what : {"项目", "选项"}) {
+            pressKey(VK_CONTROL, what == std::string("项目") ? 'D' : 'R');
+            HWND dialog = host.dialog(what);
+            ASSERT_TRUE(dialog) << row.how << what;
+            typeText(L"x");
+            row.close(dialog);
+            EXPECT_TRUE(host.waitGone(dialog)) << row.how << what;
+            EXPECT_TRUE(host.waitReady(host.frame())) << row.how << what;
+            EXPECT_TRUE(host.waitTitle(title)) << row.how << what;
+        }
+    leave(host);
+}
+
+TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
+    HostProcess host("host.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    pressKey(VK_CONTROL, 'R');
+    HWND sheet = host.dialog("选项");
+    ASSERT_TRUE(sheet);
+    HWND name = host.focus();
+    EXPECT_EQ(IDC_SHEET_NAME, ::GetDlgCtrlID(name));
+    EXPECT_FALSE(::IsWindowEnabled(host.frame()));
+    typeText(wideText("总图"));
+    EXPECT_TRUE(host.waitText(name, "总图"));
+    pressKey(VK_CONTROL, VK_TAB);
+    HWND scale = NULL;
+    ASSERT_TRUE(waitUntil([&] {
+        HWND page = reinterpret_cast<HWND>(::SendMessageA(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+        scale = page ? item(page, IDC_SCALE) : NULL;
+        return scale && ::IsWindowVisible(scale);
+    }));
+    click(scale);
+    ASSERT_TRUE(host.waitFocus(scale));
+    pressKey(VK_HOME);
+    pressKey(VK_SHIFT, VK_END);
+    typeText(L"0");
+    ASSERT_TRUE(host.waitText(scale, "0"));
+    // The page is not left with a value that it refuses.
+    pressKey(VK_RETURN);
+    HWND box = host.dialog("host");
+    ASSERT_TRUE(box);
+    pressKey(VK_RETURN);
+    ASSERT_TRUE(host.waitGone(box));
+    ASSERT_TRUE(host.waitReady(sheet) && host.waitFocus(scale));
+    typeText(L"250.5");
+    ASSERT_TRUE(host.waitText(scale, "250.5"));
+    HWND grid = item(::GetParent(scale), IDC_GRID);
+    click(grid);
+    EXPECT_TRUE(waitUntil([&] { return ::SendMessageA(grid, BM_GETCHECK, 0, 0) == 1; }));
+    pressKey(VK_RETURN);
+    EXPECT_TRUE(host.waitGone(sheet));
+    EXPECT_TRUE(host.waitTitle("计划: [总图 250.5#]"));
+    leave(host);
+}
+
+TEST_F(Host, AModelessDialogStaysWhileTheFrameWorks) {
+    HostProcess host("host.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    pressKey(VK_CONTROL, 'F');
+    HWND find = host.dialog("查找");
+    ASSERT_TRUE(find);
+    ASSERT_TRUE(host.waitTitle("计划: [ 500] ?"));
+    EXPECT_TRUE(::IsWindowEnabled(host.frame()));
+    click(item(find, IDC_WHAT));
+    ASSERT_TRUE(host.waitFocus(item(find, IDC_WHAT)));
+    typeText(wideText("桥梁"));
+    ASSERT_TRUE(host.waitText(item(find, IDC_WHAT), "桥梁"));
+    pressKey(VK_RETURN);
+    EXPECT_TRUE(host.waitTitle("计划: [ 500] ?桥梁"));
+    pressKey(VK_ESCAPE);
+    EXPECT_TRUE(host.waitGone(find));
+    EXPECT_TRUE(host.waitTitle("计划: [ 500]"));
+    leave(host);
+}
+
+TEST_F(Host, ItEndsWellInWhateverOrderItsWindowsClose) {
+    const struct {
+        const char* what;
+        char key;
+        const char* title;
+    } rows[] = {{"modal dialog", 'D', "项目"}, {"sheet", 'R', "选项"}, {"modeless dialog", 'F', "查找"}};
+    for (const auto& row : rows) {
+        // The frame goes first, with the other window open over it.
+        HostProcess host("host.exe", file.name());
+        ASSERT_TRUE(host.frame()) << row.what;
+        pressKey(VK_CONTROL, static_cast<WORD>(row.key));
+        ASSERT_TRUE(host.dialog(row.title)) << row.what;
+        ::PostMessageA(host.frame(), WM_CLOSE, 0, 0);
+        EXPECT_EQ(0, host.waitExit()) << row.what;
+    }
+}
+
+TEST_F(Host, CommandsAreThereOnlyWithTheirReason) {
+    HostProcess host("host.exe", file.name());
+    ASSERT_TRUE(host.frame());
+    auto menuShown = [] {
+        HWND menu = ::FindWindowA("#32768", NULL);
+        return menu && ::IsWindowVisible(menu);
+    };
+    // Nothing to clear: neither the menu nor the key does it. Clearing would rewrite the title.
+    pressKey(VK_CONTROL, 'S');
+    ASSERT_TRUE(host.waitTitle("计划 已保存"));
+    pressKey(VK_MENU, 'I');
+    ASSERT_TRUE(waitUntil(menuShown));
+    pressKey('C');
+    pressKey(VK_ESCAPE);
+    pressKey(VK_ESCAPE);
+    ASSERT_TRUE(waitUntil([&] { return !menuShown(); }));
+    pressKey(VK_CONTROL, 'E');
+    pressKey(VK_CONTROL, 'S');
+    ASSERT_TRUE(host.waitTitle("计划 已保存 已保存"));
+    addItem(host, "井", "1", 0);
+    ASSERT_TRUE(host.waitTitle("计划: 井*1圆 [ 500]") && host.waitReady(host.frame()));
+    pressKey(VK_MENU, 'I');
+    ASSERT_TRUE(waitUntil(menuShown));
+    pressKey('C');
+    EXPECT_TRUE(host.waitTitle("计划: [ 500]") && host.waitReady(host.frame()));
+    ASSERT_TRUE(waitUntil([&] { return !menuShown(); }));
+    pressKey(VK_MENU, 'F');
+    ASSERT_TRUE(waitUntil(menuShown));
+    pressKey('X');
+    EXPECT_EQ(0, host.waitExit());
+}
+
+} // namespace
