@@ -16,7 +16,8 @@ BOOL COrvRegister::Open(const char* lpszPath, int bCreate) {
     if (!bCreate)
         return FALSE;
     m_hKey = hPrevious;
-    return CreateKey(lpszPath);
+    // The path was the member's own text, perhaps: it lives on in the member only.
+    return CreateKey(lpszPath != NULL ? m_strKeyPath.GetString() : NULL);
 }
 
 BOOL COrvRegister::Write(const char* lpszName, const char* lpszText) {

@@ -8,7 +8,10 @@
 COrvRegistry::COrvRegistry(int, int bReadOnly) : COrvRegStore(HKEY_LOCAL_MACHINE, bReadOnly) {}
 
 BOOL COrvRegistry::Open(const char* lpszPath, int bCreate) {
-    return OpenKey(lpszPath) || (bCreate && CreateKey(lpszPath));
+    if (OpenKey(lpszPath))
+        return TRUE;
+    // The path was the member's own text, perhaps: it lives on in the member only.
+    return bCreate && CreateKey(lpszPath != NULL ? m_strKeyPath.GetString() : NULL);
 }
 
 BOOL COrvRegistry::Write(const char* lpszName, const char* lpszText) {

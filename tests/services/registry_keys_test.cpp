@@ -56,6 +56,12 @@ TEST_F(RegistryKeys, MissingKeys) {
     COrvRegister nested = opened<COrvRegister>();
     EXPECT_TRUE(nested.Open("below", TRUE));
     EXPECT_TRUE(opened<COrvRegister>().VerifyKey("below"));
+    // By the path that the store itself remembers, the key being gone meanwhile.
+    COrvRegister again(0, 0);
+    again.m_strKeyPath = path("\\again").c_str();
+    EXPECT_TRUE(again.Open(again.m_strKeyPath, TRUE));
+    EXPECT_TRUE(again.m_strKeyPath == path("\\again").c_str());
+    EXPECT_TRUE(opened<COrvRegister>().VerifyKey("again"));
 }
 
 // Second bytes of characters that look like a backslash or a bar part nothing.
