@@ -172,7 +172,14 @@ public:
     void Cut() { SendMessage(WM_CUT); }
     void Paste() { SendMessage(WM_PASTE); }
 
+protected:
+    // The control itself would take the two bytes of a character for two.
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+
+    DECLARE_MESSAGE_MAP()
+
 private:
+    BYTE m_chLead = 0; // waits for its trail byte
     DWORD GetFormat(WPARAM nWhat, CHARFORMAT& cf) const;
     BOOL SetFormat(WPARAM nWhat, CHARFORMAT& cf);
 };

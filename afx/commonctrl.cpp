@@ -12,6 +12,10 @@ IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CRichEditCtrl, CWnd)
 
+BEGIN_MESSAGE_MAP(CRichEditCtrl, CWnd)
+ON_WM_CHAR()
+END_MESSAGE_MAP()
+
 CToolTipCtrl::~CToolTipCtrl() = default;
 CProgressCtrl::~CProgressCtrl() = default;
 CTabCtrl::~CTabCtrl() = default;
@@ -221,16 +225,27 @@ CString CRichEditCtrl::GetSelText() const {
     CString text;
     if (end <= start)
         return text;
-    // A wide window writes wide text here: the whole range is asked in wide characters and converted.
-    const int length = static_cast<int>(end - start);
-    auto* wide = static_cast<WCHAR*>(OrvAlloc((length + 1) * sizeof(WCHAR)));
-    wide[0] = 0;
-    ::SendMessageW(m_hWnd, EM_GETSELTEXT, 0, reinterpret_cast<LPARAM>(wide));
-    const int bytes = ::WideCharToMultiByte(CP_ACP, 0, wide, -1, NULL, 0, NULL, NULL);
-    ::WideCharToMultiByte(CP_ACP, 0, wide, -1, text.GetBuffer(bytes), bytes, NULL, NULL);
+    // At most two bytes a character.
+    SendMessage(EM_GETSELTEXT, 0,
+                reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(end - start) * 2 + 1)));
     text.ReleaseBuffer();
-    OrvFree(wide);
     return text;
+}
+
+void CRichEditCtrl::OnChar(UINT nChar, UINT, UINT) {
+    if (::IsWindowUnicode(m_hWnd) || (GetStyle() & ES_READONLY)) {
+        Default();
+        return;
+    }
+    if (m_chLead) {
+        const char character[] = {static_cast<char>(m_chLead), static_cast<char>(nChar), '\0'};
+        m_chLead = 0;
+        ReplaceSel(character, TRUE);
+    } else if (nChar <= 0xFF && ::IsDBCSLeadByte(static_cast<BYTE>(nChar))) {
+        m_chLead = static_cast<BYTE>(nChar);
+    } else {
+        Default();
+    }
 }
 
 void CRichEditCtrl::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo) {

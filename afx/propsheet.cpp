@@ -30,6 +30,13 @@ UINT CALLBACK pageCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
     return 1;
 }
 
+int buttonId(WPARAM button) {
+    return button == PSBTN_OK       ? IDOK
+           : button == PSBTN_CANCEL ? IDCANCEL
+           : button == PSBTN_FINISH ? ID_WIZFINISH
+                                    : 0;
+}
+
 } // namespace
 
 // What the sheet does with its pages.
@@ -331,11 +338,7 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam) {
     const UINT id = LOWORD(wParam);
     if (id != IDOK && id != IDCANCEL && id != ID_WIZFINISH)
         return FALSE;
-    const HWND window = m_hWnd;
     Default();
-    // The sheet has taken the button when it has no current page any more.
-    if (::IsWindow(window) && m_hWnd == window && !SendMessage(PSM_GETCURRENTPAGEHWND))
-        EndDialog(static_cast<int>(id));
     return TRUE;
 }
 
@@ -345,7 +348,16 @@ LRESULT CPropertySheet::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam
         OnClose();
         return 0;
     }
-    return CWnd::DefWindowProc(message, wParam, lParam);
+    const HWND window = m_hWnd;
+    const LRESULT result = CWnd::DefWindowProc(message, wParam, lParam);
+    const int button = message == WM_COMMAND        ? LOWORD(wParam)
+                       : message == PSM_PRESSBUTTON ? buttonId(wParam)
+                                                    : 0;
+    // The system's sheet has taken a button that closes it when it has no current page any more.
+    if ((button == IDOK || button == IDCANCEL || button == ID_WIZFINISH) && ::IsWindow(window) &&
+        !::SendMessageA(window, PSM_GETCURRENTPAGEHWND, 0, 0))
+        EndDialog(button);
+    return result;
 }
 
 void CPropertySheet::OnClose() {

@@ -103,9 +103,10 @@ BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
 }
 
 void CWnd::GetWindowText(CString& rString) const {
-    const int room = ::GetWindowTextLengthA(m_hWnd) + 1;
+    // Some controls count characters here, and write no zero behind a text that is cut.
+    const int room = ::GetWindowTextLengthA(m_hWnd) * 2 + 1;
     char* text = rString.GetBuffer(room);
-    text[0] = '\0';
+    memset(text, 0, static_cast<size_t>(room) + 1);
     ::GetWindowTextA(m_hWnd, text, room);
     rString.ReleaseBuffer();
 }

@@ -26,9 +26,10 @@ LRESULT CALLBACK creationFilter(int code, WPARAM wParam, LPARAM lParam) {
         OrvWndAccess::take(object, window);
         return 0;
     } catch (...) {
-        // The window is not made.
+        // The window is not made, and the object has missed it.
         swallowException({window, WM_NCCREATE, 0, 0, 0, {}});
         object->Detach();
+        state.making = object;
         return 1;
     }
 }
@@ -38,12 +39,16 @@ void setHook(ThreadState& state, CWnd* object) {
     state.makingHook = ::SetWindowsHookExW(WH_CBT, creationFilter, NULL, ::GetCurrentThreadId());
 }
 
-// Classes of programs keep the code page procedure that they were written for; every other one is the
-// system's, and takes wide messages: only those bring typed characters of every kind.
+// The system's own controls have a procedure for either kind of text, and only the wide one gets typed
+// characters of every kind. Classes of programs keep the code page procedure that they were written for, as
+// does a control that has no other: for those the system hands out a mark instead of a wide procedure's
+// address.
 bool wantsWideMessages(HWND window) {
     if (::IsWindowUnicode(window))
         return true;
-    return !isModuleOfChain(reinterpret_cast<HINSTANCE>(::GetClassLongPtrA(window, GCLP_HMODULE)));
+    const bool codePageOnly = (::GetClassLongPtrW(window, GCLP_WNDPROC) >> 16) == 0xFFFF;
+    return !codePageOnly &&
+           !isModuleOfChain(reinterpret_cast<HINSTANCE>(::GetClassLongPtrA(window, GCLP_HMODULE)));
 }
 
 } // namespace

@@ -1,0 +1,283 @@
+// Modal loops, sheets and the pump.
+
+#include "test_app.h"
+#include "window_test.h"
+
+#include "support/heap_count.h"
+
+#include <functional>
+
+namespace {
+
+// Runs a function each time the dialog's loop is idle.
+class CIdleDlg : public CDialog {
+public:
+    explicit CIdleDlg(UINT nIDTemplate = IDD_EMPTY, CWnd* pParent = NULL) : CDialog(nIDTemplate, pParent) {}
+    std::function<void(CIdleDlg&)> m_idle;
+    std::function<void(CIdleDlg&)> m_init;
+
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        if (m_init)
+            m_init(*this);
+        return TRUE;
+    }
+
+protected:
+    afx_msg LRESULT OnKickIdle(WPARAM, LPARAM) {
+        m_idle(*this);
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CIdleDlg, CDialog)
+ON_MESSAGE(WM_KICKIDLE, &CIdleDlg::OnKickIdle)
+END_MESSAGE_MAP()
+
+TEST(Dialog, AnswersWhatEndsIt) {
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    const struct {
+        const char* what;
+        std::function<void(CIdleDlg&)> idle;
+        INT_PTR expected;
+    } rows[] = {
+        {"OK", [](CIdleDlg& d) { d.SendMessage(WM_COMMAND, IDOK); }, IDOK},
+        {"cancel", [](CIdleDlg& d) { d.PostMessage(WM_COMMAND, IDCANCEL); }, IDCANCEL},
+        {"a number", [](CIdleDlg& d) { d.EndDialog(4711); }, 4711},
+        {"close", [](CIdleDlg& d) { d.PostMessage(WM_CLOSE); }, IDCANCEL},
+        {"destroyed from outside", [](CIdleDlg& d) { ::DestroyWindow(d.m_hWnd); }, IDABORT},
+        {"nested",
+         [](CIdleDlg& d) {
+             CIdleDlg inner(IDD_EMPTY, &d);
+             inner.m_idle = [&](CIdleDlg& i) {
+                 EXPECT_FALSE(d.IsWindowEnabled());
+                 i.EndDialog(8);
+             };
+             const INT_PTR answer = inner.DoModal();
+             EXPECT_TRUE(d.IsWindowEnabled());
+             d.EndDialog(static_cast<int>(answer) + 1);
+         },
+         9},
+    };
+    for (const auto& row : rows) {
+        CIdleDlg dialog(IDD_EMPTY, &parent);
+        dialog.m_idle = [&](CIdleDlg& d) {
+            EXPECT_FALSE(parent.IsWindowEnabled()) << row.what;
+            EXPECT_TRUE(d.IsWindowVisible()) << row.what;
+            row.idle(d);
+        };
+        EXPECT_EQ(row.expected, dialog.DoModal()) << row.what;
+        EXPECT_EQ(NULL, dialog.m_hWnd) << row.what;
+        EXPECT_TRUE(parent.IsWindowEnabled()) << row.what;
+        // The same object again.
+        EXPECT_EQ(row.expected, dialog.DoModal()) << row.what;
+    }
+}
+
+TEST(Dialog, MayEndBeforeItBegins) {
+    CIdleDlg dialog;
+    dialog.m_idle = [](CIdleDlg&) { FAIL() << "the loop should not have run"; };
+    dialog.m_init = [](CIdleDlg& d) { d.EndDialog(12); };
+    EXPECT_EQ(12, dialog.DoModal());
+    dialog.m_init = [](CIdleDlg&) { AfxThrowUserException(); };
+    EXPECT_EQ(-1, dialog.DoModal()) << "half a dialog is none";
+    CIdleDlg missing(9999);
+    EXPECT_EQ(-1, missing.DoModal());
+    CDialog modeless;
+    EXPECT_FALSE(modeless.Create(9999u));
+}
+
+TEST(Dialog, AnOwnerThatGoesTakesTheDialogAlong) {
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    CIdleDlg dialog(IDD_EMPTY, &parent);
+    dialog.m_idle = [&](CIdleDlg&) { parent.DestroyWindow(); };
+    EXPECT_EQ(IDABORT, dialog.DoModal());
+}
+
+TEST(Dialog, TheEndOfTheProgramEndsEveryLoop) {
+    CIdleDlg outer;
+    INT_PTR inside = 0;
+    outer.m_idle = [&](CIdleDlg& d) {
+        CIdleDlg inner(IDD_EMPTY, &d);
+        inner.m_idle = [](CIdleDlg&) { ::PostQuitMessage(6); };
+        inside = inner.DoModal();
+    };
+    EXPECT_EQ(-1, outer.DoModal());
+    EXPECT_EQ(-1, inside);
+    MSG quit = {};
+    ASSERT_TRUE(::PeekMessageW(&quit, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(6, int(quit.wParam));
+}
+
+TEST(Dialog, TemporaryObjectsFromBeforeOutliveTheLoop) {
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    HWND statics[2];
+    for (HWND& window : statics)
+        window = ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 9, 9, parent.m_hWnd, NULL, NULL, NULL);
+    CWnd* before = CWnd::FromHandle(statics[0]);
+    CIdleDlg dialog(IDD_EMPTY, &parent);
+    int rounds = 0;
+    dialog.m_idle = [&](CIdleDlg& d) {
+        EXPECT_EQ(before, CWnd::FromHandle(statics[0]));
+        CWnd::FromHandle(statics[1]);
+        if (++rounds == 3)
+            d.EndDialog(1);
+        else
+            d.PostMessage(WM_USER);
+    };
+    dialog.DoModal();
+    EXPECT_EQ(statics[0], before->m_hWnd);
+    AfxLockTempMaps();
+    AfxUnlockTempMaps();
+}
+
+TEST(Dialog, KeysPassTheControlsBeforeTheDialog) {
+    class CGreedyEdit : public CEdit {
+    public:
+        BOOL PreTranslateMessage(MSG* pMsg) override {
+            return pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && ++taken == 1;
+        }
+        int taken = 0;
+    } edit;
+    CIdleDlg dialog(IDD_FIELDS);
+    dialog.m_init = [&](CIdleDlg& d) { edit.SubclassDlgItem(IDC_EDIT, &d); };
+    dialog.m_idle = [&](CIdleDlg&) { edit.PostMessage(WM_KEYDOWN, VK_ESCAPE, 1); };
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_EQ(2, edit.taken) << "the first Esc was the control's, the second the dialog's";
+}
+
+// --- sheets
+
+class CIdlePage : public CPropertyPage {
+public:
+    explicit CIdlePage(UINT nIDTemplate) : CPropertyPage(nIDTemplate) {}
+    int m_nSet = 0, m_nKilled = 0, m_nApplied = 0, m_nReset = 0;
+    BOOL m_bLeave = TRUE;
+
+    BOOL OnSetActive() override {
+        ++m_nSet;
+        return CPropertyPage::OnSetActive();
+    }
+    BOOL OnKillActive() override {
+        ++m_nKilled;
+        return m_bLeave && CPropertyPage::OnKillActive();
+    }
+    void OnOK() override { ++m_nApplied; }
+    void OnCancel() override { ++m_nReset; }
+};
+
+class CIdleSheet : public CPropertySheet {
+public:
+    explicit CIdleSheet(LPCTSTR pszCaption) : CPropertySheet(pszCaption) {}
+    std::function<void(CIdleSheet&)> m_idle;
+
+protected:
+    afx_msg LRESULT OnKickIdle(WPARAM, LPARAM) {
+        m_idle(*this);
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CIdleSheet, CPropertySheet)
+ON_MESSAGE(WM_KICKIDLE, &CIdleSheet::OnKickIdle)
+END_MESSAGE_MAP()
+
+TEST(Sheet, PagesAreMadeLeftAndConfirmed) {
+    CIdlePage first(IDD_FIELDS), second(IDD_EMPTY);
+    CIdleSheet sheet("表单");
+    sheet.AddPage(&first);
+    sheet.AddPage(&second);
+    EXPECT_EQ(2, sheet.GetPageCount());
+    sheet.m_idle = [&](CIdleSheet& s) {
+        EXPECT_EQ(0, s.GetActiveIndex());
+        EXPECT_EQ(&sheet, first.GetParentSheet());
+        EXPECT_EQ(NULL, second.m_hWnd) << "a page is made when it is first shown";
+        CString text;
+        s.GetWindowText(text);
+        EXPECT_STREQ("表单", text);
+        first.m_bLeave = FALSE;
+        s.SetActivePage(1);
+        EXPECT_EQ(0, s.GetActiveIndex()) << "not left";
+        s.PressButton(PSBTN_OK);
+        EXPECT_EQ(0, first.m_nApplied) << "not confirmed either";
+        first.m_bLeave = TRUE;
+        s.SetActivePage(&second);
+        EXPECT_EQ(&second, s.GetActivePage());
+        s.PressButton(PSBTN_OK);
+    };
+    EXPECT_EQ(IDOK, sheet.DoModal());
+    EXPECT_EQ(1, first.m_nApplied);
+    EXPECT_EQ(1, second.m_nApplied);
+    EXPECT_EQ(0, first.m_nReset);
+    EXPECT_EQ(NULL, first.m_hWnd);
+    EXPECT_EQ(NULL, second.m_hWnd);
+    // The same objects again, cancelled.
+    sheet.m_idle = [](CIdleSheet& s) { s.PostMessage(WM_CLOSE); };
+    EXPECT_EQ(IDCANCEL, sheet.DoModal());
+    EXPECT_EQ(1, first.m_nApplied);
+    EXPECT_EQ(1, first.m_nReset);
+    sheet.m_idle = [](CIdleSheet& s) { ::DestroyWindow(s.m_hWnd); };
+    EXPECT_EQ(IDABORT, sheet.DoModal());
+}
+
+TEST(Sheet, ModelessItEndsWithItsButtons) {
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    for (int button : {PSBTN_OK, PSBTN_CANCEL}) {
+        CIdlePage page(IDD_EMPTY);
+        CPropertySheet sheet("表单");
+        sheet.AddPage(&page);
+        ASSERT_TRUE(sheet.Create(&parent));
+        EXPECT_TRUE(parent.IsWindowEnabled());
+        EXPECT_TRUE(::IsWindow(page.m_hWnd));
+        sheet.PressButton(button);
+        MSG message;
+        while (::PeekMessageW(&message, NULL, 0, 0, PM_REMOVE))
+            ::DispatchMessageW(&message);
+        EXPECT_EQ(NULL, sheet.m_hWnd) << button;
+        EXPECT_EQ(NULL, page.m_hWnd) << button;
+        EXPECT_EQ(button == PSBTN_OK ? 1 : 0, page.m_nApplied);
+    }
+    CPropertySheet empty("空");
+    EXPECT_EQ(-1, empty.DoModal());
+    CIdlePage missing(9999);
+    empty.AddPage(&missing);
+    EXPECT_EQ(-1, empty.DoModal());
+}
+
+// --- the program's loop
+
+TEST(Pump, RunsUntilItsMainWindowGoes) {
+    auto* frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(NULL, "主窗口"));
+    theApp.m_pMainWnd = frame;
+    frame->PostMessage(WM_CLOSE);
+    EXPECT_EQ(0, theApp.Run());
+    EXPECT_EQ(NULL, theApp.m_pMainWnd);
+}
+
+TEST(Pump, IdleTimeEmptiesTheMapsOfTemporaryObjects) {
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    HWND window = ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 9, 9, parent.m_hWnd, NULL, NULL, NULL);
+    CWnd::FromHandle(window);
+    theApp.OnIdle(1);
+    const size_t before = orv::test::heapUse().blocks;
+    CWnd::FromHandle(window);
+    EXPECT_TRUE(theApp.OnIdle(0)) << "there is more to do";
+    EXPECT_LT(before, orv::test::heapUse().blocks);
+    EXPECT_FALSE(theApp.OnIdle(1));
+    EXPECT_EQ(before, orv::test::heapUse().blocks);
+    MSG still = {NULL, WM_PAINT, 0, 0, 0, {}};
+    EXPECT_FALSE(theApp.IsIdleMessage(&still));
+    MSG mouse = {NULL, WM_MOUSEMOVE, 0, 0, 0, {50, 50}};
+    EXPECT_TRUE(theApp.IsIdleMessage(&mouse));
+    EXPECT_FALSE(theApp.IsIdleMessage(&mouse)) << "a mouse at rest";
+}
+
+} // namespace

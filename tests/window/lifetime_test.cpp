@@ -1,0 +1,338 @@
+// Windows and objects that end in every order, and handlers that throw.
+
+#include "window_test.h"
+
+#include "support/gdi_count.h"
+#include "support/heap_count.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+using orv::test::DebugEvents;
+
+namespace {
+
+int ends = 0; // calls of PostNcDestroy
+
+class CCountedWnd : public CHiddenWnd {
+protected:
+    void PostNcDestroy() override { ++ends; }
+};
+
+TEST(Lifetime, AParentTakesItsChildrenAlong) {
+    CCountedWnd parent, child;
+    ASSERT_TRUE(parent.Make());
+    ASSERT_TRUE(child.Create(NULL, NULL, WS_CHILD, CRect(0, 0, 9, 9), &parent, 1));
+    ends = 0;
+    const HWND window = child.m_hWnd;
+    parent.DestroyWindow();
+    EXPECT_EQ(2, ends);
+    EXPECT_EQ(NULL, child.m_hWnd);
+    EXPECT_EQ(NULL, CWnd::FromHandlePermanent(window));
+    EXPECT_FALSE(child.DestroyWindow());
+    EXPECT_TRUE(parent.Make()) << "an object may get another window";
+}
+
+TEST(Lifetime, AnObjectThatGoesFirstTakesItsWindowAlong) {
+    HWND window;
+    ends = 0;
+    {
+        CCountedWnd object;
+        ASSERT_TRUE(object.Make());
+        window = object.m_hWnd;
+    }
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(0, ends) << "the derived part was gone already";
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    {
+        CEdit edit;
+        ASSERT_TRUE(edit.Create(WS_CHILD, CRect(0, 0, 9, 9), &parent, 5));
+        window = edit.m_hWnd;
+    }
+    EXPECT_FALSE(::IsWindow(window));
+    CEdit again;
+    ASSERT_TRUE(again.Create(WS_CHILD, CRect(0, 0, 9, 9), &parent, 5));
+    ::DestroyWindow(again.m_hWnd); // by the system, behind the object's back
+    EXPECT_EQ(NULL, again.m_hWnd);
+}
+
+// Destroys itself, or its owner, in the midst of a message.
+class CSuicidalWnd : public CHiddenWnd {
+protected:
+    afx_msg LRESULT OnEnd(WPARAM wParam, LPARAM) {
+        ::DestroyWindow(reinterpret_cast<HWND>(wParam));
+        return 3;
+    }
+    void PostNcDestroy() override {
+        ++ends;
+        delete this;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CSuicidalWnd, CWnd)
+ON_MESSAGE(WM_USER, &CSuicidalWnd::OnEnd)
+END_MESSAGE_MAP()
+
+TEST(Lifetime, AWindowMayEndInItsOwnHandler) {
+    ends = 0;
+    auto* alone = new CSuicidalWnd;
+    ASSERT_TRUE(alone->Make());
+    EXPECT_EQ(3, alone->SendMessage(WM_USER, reinterpret_cast<WPARAM>(alone->m_hWnd)));
+    EXPECT_EQ(1, ends);
+    auto* owner = new CSuicidalWnd;
+    auto* child = new CSuicidalWnd;
+    ASSERT_TRUE(owner->Make());
+    ASSERT_TRUE(child->Create(NULL, NULL, WS_CHILD, CRect(0, 0, 9, 9), owner, 1));
+    EXPECT_EQ(3, child->SendMessage(WM_USER, reinterpret_cast<WPARAM>(owner->m_hWnd)));
+    EXPECT_EQ(3, ends);
+}
+
+TEST(Lifetime, OnlyTheFirstWindowMadeIsTaken) {
+    class CFirstWnd : public CHiddenWnd {
+    public:
+        HWND inner = NULL;
+
+    protected:
+        void PreSubclassWindow() override {
+            inner = ::CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, NULL, NULL, NULL, NULL);
+        }
+    } object;
+    ASSERT_TRUE(object.Make());
+    EXPECT_NE(object.inner, object.m_hWnd);
+    EXPECT_EQ(NULL, CWnd::FromHandlePermanent(object.inner));
+    HWND later = ::CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, NULL, NULL, NULL, NULL);
+    EXPECT_EQ(NULL, CWnd::FromHandlePermanent(later));
+    ::DestroyWindow(later);
+    ::DestroyWindow(object.inner);
+}
+
+TEST(Lifetime, FailedCreationEndsTheObjectOnce) {
+    class CRefusing : public CCountedWnd {
+    public:
+        int where = 0;
+
+    protected:
+        BOOL PreCreateWindow(CREATESTRUCT& cs) override {
+            if (where == 1)
+                cs.lpszClass = "no such class";
+            return where != 0 && CCountedWnd::PreCreateWindow(cs);
+        }
+        void PreSubclassWindow() override {
+            if (where == 2)
+                AfxThrowResourceException();
+        }
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if ((where == 3 && message == WM_NCCREATE) || (where == 5 && message == WM_CREATE))
+                return where == 3 ? FALSE : -1;
+            if (where == 4 && message == WM_CREATE)
+                AfxThrowMemoryException();
+            return CCountedWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    for (int where = 0; where <= 5; ++where) {
+        DebugEvents events;
+        CRefusing object;
+        object.where = where;
+        ends = 0;
+        EXPECT_FALSE(object.Make()) << where;
+        EXPECT_EQ(1, ends) << where;
+        EXPECT_EQ(NULL, object.m_hWnd) << where;
+    }
+}
+
+// --- subclassing
+
+LRESULT CALLBACK strangersProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
+    if (nMsg == WM_USER + 1)
+        return 44;
+    auto before = reinterpret_cast<WNDPROC>(reinterpret_cast<LONG_PTR>(::GetPropA(hWnd, "before")));
+    return ::CallWindowProcW(before, hWnd, nMsg, wParam, lParam);
+}
+
+TEST(Lifetime, SubclassingIsUndoneInAnyOrder) {
+    HWND window = ::CreateWindowExA(0, "EDIT", "文", WS_POPUP, 0, 0, 50, 20, NULL, NULL, NULL, NULL);
+    CEdit edit, second;
+    EXPECT_FALSE(edit.SubclassWindow(NULL));
+    EXPECT_FALSE(edit.SubclassWindow(reinterpret_cast<HWND>(static_cast<INT_PTR>(0x77777))));
+    ASSERT_TRUE(edit.SubclassWindow(window));
+    EXPECT_TRUE(::IsWindowUnicode(window)) << "typed characters of every kind";
+    EXPECT_FALSE(second.SubclassWindow(window)) << "one object a window";
+    // Somebody subclasses on top; taking ourselves out leaves him in place, and he goes on calling through
+    // us.
+    ::SetPropA(window, "before", reinterpret_cast<HANDLE>(::GetWindowLongPtrW(window, GWLP_WNDPROC)));
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(strangersProc));
+    CString text;
+    edit.GetWindowText(text);
+    EXPECT_STREQ("文", text);
+    EXPECT_EQ(44, ::SendMessageA(window, WM_USER + 1, 0, 0));
+    ::DestroyWindow(window);
+    EXPECT_EQ(NULL, edit.m_hWnd);
+
+    window = ::CreateWindowExA(0, "EDIT", "字", WS_POPUP, 0, 0, 50, 20, NULL, NULL, NULL, NULL);
+    ASSERT_TRUE(edit.SubclassWindow(window));
+    EXPECT_EQ(window, edit.UnsubclassWindow());
+    EXPECT_EQ(NULL, edit.m_hWnd);
+    char direct[8] = "";
+    ::GetWindowTextA(window, direct, 8);
+    EXPECT_STREQ("字", direct) << "the control's own procedure is back";
+    ::DestroyWindow(window);
+}
+
+// --- handlers that throw
+
+class CThrowingWnd : public CHiddenWnd {
+public:
+    int paints = 0;
+
+protected:
+    afx_msg LRESULT OnThrow(WPARAM wParam, LPARAM) {
+        switch (wParam) {
+        case 0:
+            AfxThrowUserException();
+        case 1:
+            throw std::runtime_error("standard");
+        case 2:
+            throw 2;
+        }
+        return 7;
+    }
+    afx_msg void OnPaint() {
+        ++paints;
+        AfxThrowResourceException();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CThrowingWnd, CWnd)
+ON_MESSAGE(WM_USER, &CThrowingWnd::OnThrow)
+ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+TEST(Lifetime, WhatAHandlerThrowsEndsAtTheWindow) {
+    CThrowingWnd window;
+    ASSERT_TRUE(window.Make());
+    for (int kind = 0; kind < 3; ++kind) {
+        DebugEvents events;
+        EXPECT_EQ(0, window.SendMessage(WM_USER, static_cast<WPARAM>(kind))) << kind;
+        EXPECT_NE(std::string::npos, events.text().find("left the handler of message 400")) << events.text();
+    }
+    EXPECT_EQ(7, window.SendMessage(WM_USER, 3));
+    window.ShowWindow(SW_SHOWNA);
+    window.Invalidate();
+    window.UpdateWindow();
+    const int paints = window.paints;
+    EXPECT_GT(paints, 0);
+    EXPECT_FALSE(window.GetUpdateRect(NULL)) << "or it would paint for ever";
+    window.UpdateWindow();
+    EXPECT_EQ(paints, window.paints);
+}
+
+TEST(Lifetime, StrangeParametersDoNoHarm) {
+    CHiddenWnd parent;
+    ASSERT_TRUE(parent.Make());
+    CComboBox combo;
+    ASSERT_TRUE(
+        combo.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED, CRect(0, 0, 50, 60), &parent, 3));
+    const auto stranger = reinterpret_cast<LPARAM>(::GetDesktopWindow());
+    for (UINT message :
+         {WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM, WM_NOTIFY, WM_COMMAND, WM_HSCROLL,
+          WM_CTLCOLOREDIT, WM_CHARTOITEM, WM_INITMENUPOPUP, WM_NOTIFYFORMAT, WM_SETCURSOR, WM_CONTEXTMENU})
+        parent.SendMessage(message, 0, 0);
+    for (UINT message : {WM_COMMAND, WM_HSCROLL, WM_CHARTOITEM})
+        for (LPARAM lParam : {stranger, LPARAM(0x12345), LPARAM(-1)}) {
+            parent.SendMessage(message, static_cast<WPARAM>(-1), lParam);
+            combo.SendMessage(message, static_cast<WPARAM>(-1), lParam);
+        }
+    DRAWITEMSTRUCT draw = {};
+    draw.hwndItem = parent.m_hWnd;
+    parent.SendMessage(WM_DRAWITEM, 3, reinterpret_cast<LPARAM>(&draw));
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlID = 0xFFFFFFFF;
+    parent.SendMessage(WM_MEASUREITEM, 3, reinterpret_cast<LPARAM>(&measure));
+    EXPECT_TRUE(::IsWindow(parent.m_hWnd) && ::IsWindow(combo.m_hWnd));
+}
+
+// --- nothing is left over
+
+struct Census {
+    int windows = 0, gdi = 0;
+    orv::test::HeapUse heap;
+    bool operator==(const Census&) const = default;
+};
+
+Census census() {
+    AfxLockTempMaps();
+    AfxUnlockTempMaps();
+    MSG message;
+    while (::PeekMessageW(&message, NULL, 0, 0, PM_REMOVE))
+        ::DispatchMessageW(&message);
+    Census c;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM lParam) -> BOOL {
+            ++*reinterpret_cast<int*>(lParam);
+            ::EnumChildWindows(
+                window,
+                [](HWND, LPARAM inner) -> BOOL {
+                    ++*reinterpret_cast<int*>(inner);
+                    return TRUE;
+                },
+                lParam);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&c.windows));
+    c.gdi = orv::test::liveGdiHandles();
+    c.heap = orv::test::heapUse();
+    return c;
+}
+
+void makeAndDestroy(int count) {
+    for (int i = 0; i < count; i += 10) {
+        CHiddenWnd parent;
+        CEdit edit, subclassed;
+        CComboBox combo;
+        CListBox list;
+        CButton button;
+        CDialog dialog;
+        const CRect rect(0, 0, 50, 50);
+        parent.Make();
+        edit.Create(WS_CHILD, rect, &parent, 1);
+        combo.Create(WS_CHILD | CBS_DROPDOWN, rect, &parent, 2);
+        list.Create(WS_CHILD, rect, &parent, 3);
+        button.Create("按钮", WS_CHILD, rect, &parent, 4);
+        dialog.Create(102u, &parent);
+        subclassed.SubclassDlgItem(IDOK, &dialog);
+        combo.AddString("文字");
+        parent.GetDlgItem(1)->SetWindowText("甲");
+        CClientDC dc(&parent);
+        CDC::FromHandle(dc.m_hDC)->TextOut(0, 0, "字", 2);
+        switch (i / 10 % 3) {
+        case 0:
+            parent.DestroyWindow();
+            break;
+        case 1:
+            dialog.DestroyWindow();
+            break;
+        }
+    }
+}
+
+TEST(Lifetime, AThousandWindowsLeaveNothing) {
+    makeAndDestroy(1000);
+    census();
+    const Census before = census();
+    makeAndDestroy(1000);
+    const Census after = census();
+    EXPECT_EQ(before.windows, after.windows);
+    EXPECT_EQ(before.gdi, after.gdi);
+    EXPECT_EQ(before.heap.blocks, after.heap.blocks);
+    EXPECT_EQ(before.heap.bytes, after.heap.bytes);
+    CHiddenWnd another;
+    another.Make();
+    EXPECT_NE(before, census()) << "the count sees a window";
+}
+
+} // namespace
