@@ -37,8 +37,12 @@ protected:
         char name[MAX_PATH];
         ::GetModuleFileNameA(NULL, name, sizeof name);
         m_program = folderOf(name) + "\\gallery.exe";
-        m_folder = folderOf(name) + "\\gallery_test." + std::to_string(::GetCurrentProcessId());
-        ASSERT_TRUE(::CreateDirectoryA(m_folder.c_str(), NULL));
+        // A run that was killed may have left its folder, and process numbers come again.
+        int nNumber = 0;
+        do {
+            ASSERT_LT(++nNumber, 1000);
+            m_folder = folderOf(name) + "\\gallery_test." + std::to_string(nNumber);
+        } while (!::CreateDirectoryA(m_folder.c_str(), NULL));
     }
 
     void TearDown() override {
