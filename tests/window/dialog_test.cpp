@@ -276,6 +276,8 @@ TEST(Pump, IdleTimeEmptiesTheMapsOfTemporaryObjects) {
     MSG still = {NULL, WM_PAINT, 0, 0, 0, {}};
     EXPECT_FALSE(theApp.IsIdleMessage(&still));
     MSG mouse = {NULL, WM_MOUSEMOVE, 0, 0, 0, {50, 50}};
+    theApp.IsIdleMessage(&mouse);
+    ++mouse.pt.x;
     EXPECT_TRUE(theApp.IsIdleMessage(&mouse));
     EXPECT_FALSE(theApp.IsIdleMessage(&mouse)) << "a mouse at rest";
 }
