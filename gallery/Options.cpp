@@ -12,6 +12,9 @@ const char* const helpText =
     "  gallery --tour DIR\n"
     "      Draws every sheet of the gallery into DIR, one PNG picture each.\n"
     "\n"
+    "  gallery --window\n"
+    "      Opens a window of pages to look at and to try.\n"
+    "\n"
     "  gallery --draw FILE --out PICTURE [--type N] [--width W] [--color #RRGGBB] [--size WxH] [--plane]\n"
     "      Draws the lines of FILE in a line type of the library.\n"
     "\n"
@@ -112,6 +115,12 @@ const Rule rules[] = {
          return *value != '\0';
      },
      "--tour needs the name of a folder"},
+    {"window", no_argument,
+     [](Reading& r, const char*) {
+         r.options.task = Options::Task::window;
+         return r.options.window = true;
+     },
+     ""},
     {"draw", required_argument,
      [](Reading& r, const char* value) {
          r.options.task = Options::Task::draw;
@@ -160,10 +169,15 @@ const char* contradiction(const Options& options) {
     if (tour && (!options.layers.empty() || !options.picture.empty())) {
         return "--tour stands alone, without --draw and --out";
     }
+    if (options.window && (tour || !options.layers.empty() || !options.picture.empty())) {
+        return "--window stands alone";
+    }
     if (!options.layers.empty() && options.picture.empty()) {
         return "--draw needs --out, the name of the picture";
     }
-    return options.layers.empty() && !tour ? "nothing to do: give --draw or --tour" : nullptr;
+    return options.layers.empty() && !tour && !options.window
+               ? "nothing to do: give --draw, --tour or --window"
+               : nullptr;
 }
 
 } // namespace

@@ -16,9 +16,10 @@ struct Layer {
 };
 
 struct Options {
-    enum class Task { help, tour, draw };
+    enum class Task { help, tour, draw, window };
 
     Task task = Task::help;
+    bool window = false;
     std::string tourFolder;
     std::string picture;
     int pictureWidth = 1200;

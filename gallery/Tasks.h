@@ -9,6 +9,9 @@ enum ExitStatus { exitDone = 0, exitBadInput = 1, exitBadCommand = 2, exitNoPict
 // Draws every sheet into the folder, which is made when it is not there.
 ExitStatus runTour(const Options& options);
 
+// Opens the window of pages and runs until it is closed.
+ExitStatus runWindow();
+
 // Draws files of line work into one picture.
 ExitStatus runDraw(const Options& options);
 

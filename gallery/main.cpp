@@ -22,6 +22,8 @@ int run(int argc, char** argv) {
         return runTour(options);
     case Options::Task::draw:
         return runDraw(options);
+    case Options::Task::window:
+        return runWindow();
     default:
         std::fputs(helpText, stdout);
         return exitDone;

@@ -33,6 +33,8 @@ TEST(Options, RefusesWithAReason) {
         {"--type 3", "nothing to do"},
         {"--tour d --draw a --out a.png", "stands alone"},
         {"--tour d --out a.png", "stands alone"},
+        {"--window --tour d", "stands alone"},
+        {"--draw a --out a.png --window", "stands alone"},
         {"--tour ''", "name of a folder"},
         {"--draw '' --out a.png", "name of a file"},
         {"--draw a --out a.jpg", ".png or .bmp"},
@@ -71,6 +73,13 @@ TEST(Options, WithoutArgumentsIsHelp) {
         EXPECT_TRUE(parse(commandLine, options, message)) << commandLine;
         EXPECT_EQ(options.task, Options::Task::help) << commandLine;
     }
+}
+
+TEST(Options, TheWindowNeedsNoMore) {
+    Options options;
+    std::string message;
+    EXPECT_TRUE(parse("--window", options, message)) << message;
+    EXPECT_EQ(options.task, Options::Task::window);
 }
 
 TEST(Options, ReadsThePicture) {

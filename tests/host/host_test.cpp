@@ -1,6 +1,6 @@
 // A host driven from outside by mouse and keyboard, as its user does.
 
-#include "host_process.h"
+#include "support/driven_program.h"
 #include "resource.h"
 
 #include "support/input.h"
@@ -38,7 +38,7 @@ protected:
     PlanFile file;
 
     // Fills the item dialog by keys alone and confirms it.
-    static void addItem(HostProcess& host, const char* name, const char* count, int symbol) {
+    static void addItem(DrivenProgram& host, const char* name, const char* count, int symbol) {
         pressKey(VK_CONTROL, 'D');
         HWND dialog = host.dialog("项目");
         ASSERT_TRUE(dialog);
@@ -66,7 +66,7 @@ protected:
         EXPECT_TRUE(host.waitReady(host.frame()));
     }
 
-    static void leave(HostProcess& host) {
+    static void leave(DrivenProgram& host) {
         ASSERT_TRUE(host.waitReady(host.frame()));
         pressKey(VK_MENU, VK_F4);
         EXPECT_EQ(0, host.waitExit());
@@ -75,7 +75,7 @@ protected:
 
 TEST_F(Host, ItemsAreAddedSavedAndLoadedByAnotherRun) {
     {
-        HostProcess host("host.exe", file.name());
+        DrivenProgram host("host.exe", file.name(), "计划");
         ASSERT_TRUE(host.frame());
         addItem(host, "铁路线", "3", 0);
         EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 [ 500]"));
@@ -85,7 +85,7 @@ TEST_F(Host, ItemsAreAddedSavedAndLoadedByAnotherRun) {
         EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500] 已保存"));
         leave(host);
     }
-    HostProcess host("host_console.exe", file.name());
+    DrivenProgram host("host_console.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     pressKey(VK_CONTROL, 'O');
     EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500]"));
@@ -93,7 +93,7 @@ TEST_F(Host, ItemsAreAddedSavedAndLoadedByAnotherRun) {
 }
 
 TEST_F(Host, ARefusedValueKeepsTheDialogAndMarksTheField) {
-    HostProcess host("host.exe", file.name());
+    DrivenProgram host("host.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     pressKey(VK_CONTROL, 'D');
     HWND dialog = host.dialog("项目");
@@ -123,7 +123,7 @@ TEST_F(Host, ARefusedValueKeepsTheDialogAndMarksTheField) {
 }
 
 TEST_F(Host, MouseAndASubclassedFieldWorkInTheDialog) {
-    HostProcess host("host.exe", file.name());
+    DrivenProgram host("host.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     pressKey(VK_CONTROL, 'D');
     HWND dialog = host.dialog("项目");
@@ -144,7 +144,7 @@ TEST_F(Host, MouseAndASubclassedFieldWorkInTheDialog) {
 }
 
 TEST_F(Host, CancelledDialogsChangeNothing) {
-    HostProcess host("host.exe", file.name());
+    DrivenProgram host("host.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     addItem(host, "桥", "2", 1);
     const std::string title = "计划: 桥*2方 [ 500]";
@@ -170,7 +170,7 @@ TEST_F(Host, CancelledDialogsChangeNothing) {
 }
 
 TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
-    HostProcess host("host.exe", file.name());
+    DrivenProgram host("host.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     pressKey(VK_CONTROL, 'R');
     HWND sheet = host.dialog("选项");
@@ -212,7 +212,7 @@ TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
 }
 
 TEST_F(Host, AModelessDialogStaysWhileTheFrameWorks) {
-    HostProcess host("host.exe", file.name());
+    DrivenProgram host("host.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     pressKey(VK_CONTROL, 'F');
     HWND find = host.dialog("查找");
@@ -239,7 +239,7 @@ TEST_F(Host, ItEndsWellInWhateverOrderItsWindowsClose) {
     } rows[] = {{"modal dialog", 'D', "项目"}, {"sheet", 'R', "选项"}, {"modeless dialog", 'F', "查找"}};
     for (const auto& row : rows) {
         // The frame goes first, with the other window open over it.
-        HostProcess host("host.exe", file.name());
+        DrivenProgram host("host.exe", file.name(), "计划");
         ASSERT_TRUE(host.frame()) << row.what;
         pressKey(VK_CONTROL, static_cast<WORD>(row.key));
         ASSERT_TRUE(host.dialog(row.title)) << row.what;
@@ -249,7 +249,7 @@ TEST_F(Host, ItEndsWellInWhateverOrderItsWindowsClose) {
 }
 
 TEST_F(Host, CommandsAreThereOnlyWithTheirReason) {
-    HostProcess host("host.exe", file.name());
+    DrivenProgram host("host.exe", file.name(), "计划");
     ASSERT_TRUE(host.frame());
     auto menuShown = [] {
         HWND menu = ::FindWindowA("#32768", NULL);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <span>
+
+namespace gallery {
+
+// One page of the window. Each page has a source file of its own and a row in Pages.cpp.
+struct Page {
+    const char* title;
+    // Makes the page's window, a hidden child of parent; it deletes itself when it is destroyed. NULL when it
+    // cannot be made.
+    CWnd* (*create)(CWnd& parent, UINT id);
+};
+
+std::span<const Page> pages();
+
+CWnd* createLinePage(CWnd& parent, UINT id);
+
+} // namespace gallery

@@ -1,0 +1,62 @@
+// The gallery's window as its user meets it.
+
+#include "support/driven_program.h"
+#include "support/input.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+using namespace orv::test;
+
+namespace {
+
+// A few pixels of the page as the screen shows it, sparse enough to be asked for again and again.
+std::vector<COLORREF> sample(HWND page) {
+    RECT place;
+    ::GetWindowRect(page, &place);
+    HDC screen = ::GetDC(NULL);
+    std::vector<COLORREF> colors;
+    for (int y = 40; y < 500; y += 46)
+        for (int x = 50; x < 900; x += 17)
+            colors.push_back(::GetPixel(screen, place.left + x, place.top + y));
+    ::ReleaseDC(NULL, screen);
+    return colors;
+}
+
+bool hasInk(const std::vector<COLORREF>& colors) {
+    return std::count(colors.begin(), colors.end(), RGB(255, 255, 255)) < static_cast<int>(colors.size());
+}
+
+TEST(Frame, ShowsThePageAndScrollsIt) {
+    DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
+    ASSERT_TRUE(gallery.frame());
+    HWND list = ::GetDlgItem(gallery.frame(), 100), page = ::GetDlgItem(gallery.frame(), 200);
+    ASSERT_TRUE(list && page);
+    ASSERT_TRUE(gallery.waitFocus(list));
+    EXPECT_TRUE(waitUntil([&] { return ::IsWindowVisible(page); }));
+    EXPECT_TRUE(waitUntil([&] { return hasInk(sample(page)); }));
+    pressKey(VK_TAB);
+    ASSERT_TRUE(gallery.waitFocus(page));
+    const auto top = sample(page);
+    pressKey(VK_END);
+    EXPECT_TRUE(waitUntil([&] { return hasInk(sample(page)) && sample(page) != top; }));
+    pressKey(VK_HOME);
+    EXPECT_TRUE(waitUntil([&] { return sample(page) == top; }));
+    pressKey(VK_TAB);
+    ASSERT_TRUE(gallery.waitFocus(list));
+    // The page fills what the list leaves.
+    ::SetWindowPos(gallery.frame(), NULL, 0, 0, 700, 500, SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_TRUE(waitUntil([&] {
+        RECT frame, inner;
+        ::GetClientRect(gallery.frame(), &frame);
+        ::GetWindowRect(page, &inner);
+        ::MapWindowPoints(NULL, gallery.frame(), reinterpret_cast<POINT*>(&inner), 2);
+        return inner.right == frame.right && inner.bottom == frame.bottom && inner.left == 160;
+    }));
+    pressKey(VK_MENU, VK_F4);
+    EXPECT_EQ(0, gallery.waitExit());
+}
+
+} // namespace
