@@ -211,14 +211,13 @@ void OrvArray<TYPE, ARG_TYPE>::Swap(OrvArray& other) {
 }
 
 // A doubly linked list. A POSITION stays good until its element is removed; NULL is "behind the end". Reading
-// an empty list or a NULL position is an assertion, and gives an empty value in release builds.
+// an empty list or a NULL position is an assertion, and gives an empty value in release builds. Memory is
+// taken in blocks of elements, used again for new ones, and given back when the list is empty.
 template <class TYPE, class ARG_TYPE>
 class OrvList : public CObject {
 protected:
     struct CNode : __POSITION {
         explicit CNode(ARG_TYPE newElement) : pNext(NULL), pPrev(NULL), data(newElement) {}
-        static void* operator new(size_t nSize) { return OrvAlloc(nSize); }
-        static void operator delete(void* p) { OrvFree(p); }
 
         CNode* pNext;
         CNode* pPrev;
@@ -226,9 +225,14 @@ protected:
     };
 
 public:
-    // The block size is taken as a hint.
+    // nBlockSize: elements to a block, at least 1.
     explicit OrvList(INT_PTR nBlockSize = 10)
-        : m_pNodeHead(NULL), m_pNodeTail(NULL), m_nCount(0), m_nBlockSize(nBlockSize) {}
+        : m_pNodeHead(NULL), m_pNodeTail(NULL), m_nCount(0), m_nBlockSize(nBlockSize), m_pFree(NULL),
+          m_pBlocks(NULL) {
+        ASSERT(nBlockSize > 0);
+        if (nBlockSize <= 0)
+            m_nBlockSize = 1;
+    }
     ~OrvList() override { RemoveAll(); }
 
     INT_PTR GetCount() const { return m_nCount; }
@@ -241,13 +245,15 @@ public:
     const TYPE& GetTail() const { return GetAt(m_pNodeTail); }
     TYPE RemoveHead() { return Take(m_pNodeHead); }
     TYPE RemoveTail() { return Take(m_pNodeTail); }
-    POSITION AddHead(ARG_TYPE newElement) { return Link(new CNode(newElement), NULL, m_pNodeHead); }
-    POSITION AddTail(ARG_TYPE newElement) { return Link(new CNode(newElement), m_pNodeTail, NULL); }
+    POSITION AddHead(ARG_TYPE newElement) { return Link(NewNode(newElement), NULL, m_pNodeHead); }
+    POSITION AddTail(ARG_TYPE newElement) { return Link(NewNode(newElement), m_pNodeTail, NULL); }
     void AddHead(OrvList* pNewList);
     void AddTail(OrvList* pNewList);
     void RemoveAll() {
         while (m_pNodeHead != NULL)
             Unlink(m_pNodeHead);
+        if (m_nCount == 0)
+            FreeBlocks();
     }
 
     POSITION GetHeadPosition() const { return m_pNodeHead; }
@@ -288,15 +294,60 @@ protected:
     INT_PTR m_nBlockSize;
 
 private:
+    // Where a node may come to stand.
+    struct FreeNode {
+        FreeNode* pNext;
+    };
+    // In front of a block's nodes.
+    struct alignas(CNode) Block {
+        Block* pNext;
+    };
+
     static CNode* Node(POSITION position) { return static_cast<CNode*>(position); }
     OrvList* Self() const { return const_cast<OrvList*>(this); }
+    CNode* NewNode(ARG_TYPE newElement);
+    void AddBlock();
+    void FreeBlocks();
     POSITION Link(CNode* pNode, CNode* pPrev, CNode* pNext);
     void Unlink(CNode* pNode);
     TYPE Take(CNode* pNode);
     TYPE& Step(POSITION& rPosition, CNode* CNode::*pTo);
 
+    FreeNode* m_pFree;
+    Block* m_pBlocks;
     TYPE m_spare{}; // what a reference to no element refers to
 };
+
+template <class TYPE, class ARG_TYPE>
+void OrvList<TYPE, ARG_TYPE>::AddBlock() {
+    if ((SIZE_T)m_nBlockSize > (SIZE_T)-1 / 2 / sizeof(CNode))
+        AfxThrowMemoryException();
+    Block* pBlock = (Block*)OrvAlloc(sizeof(Block) + m_nBlockSize * sizeof(CNode));
+    pBlock->pNext = m_pBlocks;
+    m_pBlocks = pBlock;
+    BYTE* pNodes = (BYTE*)(pBlock + 1);
+    for (INT_PTR i = m_nBlockSize; i-- > 0;)
+        m_pFree = new (OrvPlacement{pNodes + i * sizeof(CNode)}) FreeNode{m_pFree};
+}
+
+template <class TYPE, class ARG_TYPE>
+void OrvList<TYPE, ARG_TYPE>::FreeBlocks() {
+    while (m_pBlocks != NULL) {
+        Block* pBlock = m_pBlocks;
+        m_pBlocks = pBlock->pNext;
+        OrvFree(pBlock);
+    }
+    m_pFree = NULL;
+}
+
+template <class TYPE, class ARG_TYPE>
+typename OrvList<TYPE, ARG_TYPE>::CNode* OrvList<TYPE, ARG_TYPE>::NewNode(ARG_TYPE newElement) {
+    if (m_pFree == NULL)
+        AddBlock();
+    FreeNode* pFree = m_pFree;
+    m_pFree = pFree->pNext;
+    return new (OrvPlacement{pFree}) CNode(newElement);
+}
 
 template <class TYPE, class ARG_TYPE>
 POSITION OrvList<TYPE, ARG_TYPE>::Link(CNode* pNode, CNode* pPrev, CNode* pNext) {
@@ -312,8 +363,10 @@ template <class TYPE, class ARG_TYPE>
 void OrvList<TYPE, ARG_TYPE>::Unlink(CNode* pNode) {
     (pNode->pPrev != NULL ? pNode->pPrev->pNext : m_pNodeHead) = pNode->pNext;
     (pNode->pNext != NULL ? pNode->pNext->pPrev : m_pNodeTail) = pNode->pPrev;
-    m_nCount--;
-    delete pNode;
+    pNode->~CNode(); // still counted: its end may remove the others
+    m_pFree = new (OrvPlacement{pNode}) FreeNode{m_pFree};
+    if (--m_nCount == 0)
+        FreeBlocks();
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -356,14 +409,14 @@ template <class TYPE, class ARG_TYPE>
 POSITION OrvList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement) {
     if (position == NULL)
         return AddHead(newElement);
-    return Link(new CNode(newElement), Node(position)->pPrev, Node(position));
+    return Link(NewNode(newElement), Node(position)->pPrev, Node(position));
 }
 
 template <class TYPE, class ARG_TYPE>
 POSITION OrvList<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement) {
     if (position == NULL)
         return AddTail(newElement);
-    return Link(new CNode(newElement), Node(position), Node(position)->pNext);
+    return Link(NewNode(newElement), Node(position), Node(position)->pNext);
 }
 
 template <class TYPE, class ARG_TYPE>

@@ -19,6 +19,7 @@ struct OrvArchiveMap {
     };
 
     std::vector<Entry> entries;                     // loading, from number 1 on
+    ULONGLONG nReferences = 0;                      // loading: how often a known object was given out again
     std::unordered_map<const void*, DWORD> numbers; // storing
 
     // 0 when it has none yet.
@@ -45,4 +46,16 @@ struct OrvArchiveMap {
     const Entry* entry(DWORD nIndex) const {
         return nIndex - 1 < entries.size() ? &entries[nIndex - 1] : NULL;
     }
+    // The objects from this place on are known no more. Failures come from the inside out: what the last one
+    // has done is not done again.
+    void forgetObjects(size_t nFrom) {
+        const size_t nEnd = entries.size() == nForgottenEnd ? nForgotten : entries.size();
+        for (size_t i = nFrom; i < nEnd; i++)
+            entries[i].pObject = NULL;
+        nForgotten = nFrom;
+        nForgottenEnd = entries.size();
+    }
+
+private:
+    size_t nForgotten = 0, nForgottenEnd = 0;
 };

@@ -172,16 +172,21 @@ CObject* CArchive::KnownObject(DWORD nIndex, const CRuntimeClass* pClass) {
         Fail(CArchiveException::badIndex);
     if (pClass != NULL && !pEntry->pObject->IsKindOf(pClass))
         Fail(CArchiveException::badClass);
+    Map().nReferences++;
     return pEntry->pObject;
 }
 
+// An object whose loading fails is deleted, and with it what it has read and owns. Not so when an object was
+// given out a second time meanwhile: two owners would delete it, or it would delete itself. Then all of them
+// stay.
 CObject* CArchive::ReadNewObject(CRuntimeClass* pClass, UINT nSchema) {
     if (pClass->m_pfnCreateObject == NULL)
         Fail(CArchiveException::badClass);
+    const size_t nIndex = Map().entries.size();
+    const ULONGLONG nReferences = Map().nReferences;
     CObject* pOb = pClass->CreateObject();
     if (pOb == NULL)
         AfxThrowMemoryException();
-    const size_t nIndex = Map().entries.size();
     const UINT nOuterSchema = m_nObjectSchema;
     m_nObjectSchema = nSchema;
     m_nDepth++;
@@ -191,9 +196,11 @@ CObject* CArchive::ReadNewObject(CRuntimeClass* pClass, UINT nSchema) {
     } catch (...) {
         m_nDepth--;
         m_nObjectSchema = nOuterSchema;
-        if (m_pMap != NULL && nIndex < m_pMap->entries.size())
-            m_pMap->entries[nIndex].pObject = NULL;
-        delete pOb;
+        const bool bSingleOwners = m_pMap != NULL && m_pMap->nReferences == nReferences;
+        if (m_pMap != NULL)
+            m_pMap->forgetObjects(nIndex);
+        if (bSingleOwners)
+            delete pOb;
         throw;
     }
     m_nDepth--;

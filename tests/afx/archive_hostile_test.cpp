@@ -14,6 +14,8 @@ using orv::test::stored;
 
 namespace {
 
+// A branch without a name as far as its children: class 1, object 2.
+#define BRANCH "FF FF 01 00 06 00 42 72 61 6E 63 68 00 00 00 00 00 00 00 00 00 "
 #define DOT "FF FF 01 00 03 00 44 6F 74 05 00 00 00 00 00 " // class 1, object 2
 
 // A class that is registered but makes no objects.
@@ -65,7 +67,6 @@ std::string goodStream() {
     for (int i = 0; i < 3; i++) {
         Branch* twig = new Branch;
         twig->m_strName = CString('x', 300);
-        twig->m_pLink = trunk;
         twig->m_children.Add(new Dot(i));
         trunk->m_children.Add(twig);
     }
@@ -124,7 +125,38 @@ TEST(HostileArchive, ReferencesToAnObjectWhoseLoadingFailed) {
         EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
         EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
     });
+    // The same of an object that it had read and owned.
+    loaded(fromHex(BRANCH "02 00 FF FF 01 00 03 00 44 6F 74 09 00 00 00 00 00 99 00 04 00"),
+           [](CArchive& ar) {
+               EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
+               EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
+           });
     EXPECT_EQ(0, Dot::s_nLive);
+}
+
+// A branch deletes its children: of a branch that is its own child, and of two that own one dot, nothing is
+// deleted when their loading fails.
+TEST(HostileArchive, ObjectsWithTwoOwnersStay) {
+    const struct {
+        const char* hex;
+        int nStay;
+    } rows[] = {
+        {BRANCH "02 00 02 00", 1},
+        {BRANCH
+         "03 00 01 80 00 00 00 00 00 00 00 00 00 01 00 FF FF 01 00 03 00 44 6F 74 09 00 00 00 00 00 05 00",
+         3},
+    };
+    for (const auto& row : rows) {
+        Dot::s_last.clear();
+        EXPECT_EQ(CArchiveException::endOfFile,
+                  loaded(fromHex(row.hex), [](CArchive& ar) { ar.ReadObject(NULL); }));
+        ASSERT_EQ(row.nStay, Dot::s_nLive) << row.hex;
+        for (Dot* dot : Dot::s_last)
+            if (Branch* branch = DYNAMIC_DOWNCAST(Branch, dot))
+                branch->m_children.RemoveAll();
+        for (Dot* dot : Dot::s_last)
+            delete dot;
+    }
 }
 
 TEST(HostileArchive, LengthsAndCountsThatLie) {
@@ -196,7 +228,6 @@ TEST(HostileArchive, TruncationAtEveryByte) {
     }
     EXPECT_EQ(CArchiveException::none, loaded(good, [&](CArchive& ar) { ar >> trunk; }));
     EXPECT_EQ(7, Dot::s_nLive);
-    EXPECT_EQ(trunk, DYNAMIC_DOWNCAST(Branch, trunk->m_children[2])->m_pLink);
     EXPECT_EQ(good, stored([&](CArchive& ar) { ar << trunk; }));
     delete trunk;
 }

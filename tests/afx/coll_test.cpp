@@ -4,6 +4,10 @@
 
 #include "afx_test.h"
 
+#include <list>
+#include <memory>
+#include <random>
+
 using orv::test::bytesOf;
 using orv::test::fromHex;
 using orv::test::loaded;
@@ -179,6 +183,62 @@ TEST(Lists, Edits) {
     }
 }
 
+// Elements come and go at random places, the memory of those that went is used again.
+TEST(Lists, MemoryInBlocks) {
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE(seed);
+    std::mt19937 engine(seed);
+    for (const int blockSize : {1, 2, 3, 10, 1000}) {
+        CList<std::shared_ptr<int>> list(blockSize);
+        std::list<std::pair<std::weak_ptr<int>, POSITION>> expected;
+        for (int i = 0; i < 2000; i++) {
+            // Grows to about a hundred, shrinks to nothing, and again.
+            const bool grows = i / 200 % 2 == 0 ? engine() % 4 != 0 : engine() % 4 == 0;
+            const auto at = std::next(expected.begin(), engine() % (expected.size() + 1));
+            if (grows) {
+                const auto element = std::make_shared<int>(i);
+                expected.insert(at, {element, at == expected.end() ? list.AddTail(element)
+                                                                   : list.InsertBefore(at->second, element)});
+            } else if (at != expected.end()) {
+                list.RemoveAt(at->second);
+                EXPECT_TRUE(at->first.expired());
+                expected.erase(at);
+            }
+            ASSERT_EQ((INT_PTR)expected.size(), list.GetCount());
+        }
+        POSITION pos = list.GetHeadPosition();
+        for (const auto& [element, position] : expected) {
+            ASSERT_EQ(position, pos);
+            ASSERT_EQ(element.lock(), list.GetNext(pos));
+        }
+        EXPECT_EQ(nullptr, pos);
+        list.RemoveAll();
+        for (const auto& [element, position] : expected)
+            EXPECT_TRUE(element.expired());
+    }
+}
+
+// An element whose end empties the list.
+TEST(Lists, EmptiedFromWithin) {
+    struct Chain {
+        ~Chain() {
+            if (list != NULL)
+                list->RemoveAll();
+        }
+        CList<std::shared_ptr<Chain>>* list = NULL;
+    };
+    CList<std::shared_ptr<Chain>> list(2);
+    for (int i = 0; i < 5; i++)
+        list.AddTail(std::make_shared<Chain>());
+    list.GetHead()->list = &list;
+    list.RemoveAt(list.GetHeadPosition());
+    EXPECT_TRUE(list.IsEmpty());
+    list.AddTail(std::make_shared<Chain>());
+    list.GetHead()->list = &list;
+    list.RemoveAll();
+    EXPECT_EQ(0, list.GetCount());
+}
+
 TEST(Lists, MistakesAreHarmless) {
     orv::test::PassedAssertions assertions;
     CObList objects;
@@ -188,6 +248,11 @@ TEST(Lists, MistakesAreHarmless) {
     EXPECT_EQ(nullptr, objects.GetNext(pos));
     objects.RemoveAt(NULL);
     EXPECT_EQ(0, objects.GetCount());
+    CStringList noBlocks(-5), hugeBlocks(INTPTR_MAX);
+    noBlocks.AddTail("a");
+    EXPECT_EQ("a.", shown(noBlocks));
+    EXPECT_TRUE(orv::test::throws<CMemoryException>([&] { hugeBlocks.AddTail("a"); }));
+    EXPECT_TRUE(hugeBlocks.IsEmpty());
 }
 
 TEST(Collections, StoredForms) {

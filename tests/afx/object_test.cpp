@@ -10,6 +10,7 @@ IMPLEMENT_SERIAL(Nest, CObject, 1)
 IMPLEMENT_SERIAL(Grown, CObject, VERSIONABLE_SCHEMA | 2)
 
 int Dot::s_nLive = 0;
+std::vector<Dot*> Dot::s_last;
 
 void Dot::Serialize(CArchive& ar) {
     if (ar.IsStoring())

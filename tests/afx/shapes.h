@@ -2,6 +2,8 @@
 
 #include <afxcoll.h>
 
+#include <vector>
+
 // Serial classes for the archive tests. Each counts its living objects.
 
 // A value and a pointer to somebody else's dot.
@@ -9,7 +11,10 @@ class Dot : public CObject {
     DECLARE_SERIAL(Dot)
 
 public:
-    Dot() { s_nLive++; }
+    Dot() {
+        s_nLive++;
+        s_last.push_back(this);
+    }
     explicit Dot(LONG n) : Dot() { m_n = n; }
     ~Dot() override { s_nLive--; }
     void Serialize(CArchive& ar) override;
@@ -17,6 +22,7 @@ public:
     LONG m_n = 0;
     Dot* m_pLink = NULL;
     static int s_nLive;
+    static std::vector<Dot*> s_last; // all that were made since the test emptied it
 };
 
 // Owns its children, a text and a date.
