@@ -28,8 +28,8 @@ struct tagVersionInformation {
 // but the two flags; what could be read by then is there. Texts that the resource has not are empty.
 class ORVFC_API COrvVersion {
 public:
-    COrvVersion();                         // of the running program
-    explicit COrvVersion(CString strPath); // empty: of the running program
+    COrvVersion();                // of the running program
+    COrvVersion(CString strPath); // empty: of the running program
     virtual ~COrvVersion();
     COrvVersion(const COrvVersion&) = default;
     COrvVersion& operator=(const COrvVersion&) = default;

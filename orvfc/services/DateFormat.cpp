@@ -67,10 +67,7 @@ CORVDateFormat& CORVDateFormat::operator=(const CORVDateFormat& other) {
 CORVDateFormat::~CORVDateFormat() = default;
 
 void CORVDateFormat::AddStyle(int unit, int style) {
-    ORVDateUnitSingleStruct row;
-    row.nUnit = unit;
-    row.nStyle = style;
-    orv::addNew<ORVDateUnitSingleStruct>(m_rows, row);
+    orv::addNew<ORVDateUnitSingleStruct>(m_rows, ORVDateUnitSingleStruct{unit, style});
 }
 
 int CORVDateFormat::GetStyleCount() const {

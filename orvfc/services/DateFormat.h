@@ -9,12 +9,8 @@ class CDumpContext;
 
 // What one row of a time scale shows.
 struct ORVFC_API ORVDateUnitSingleStruct {
-    int nUnit;
-    int nStyle;
-
-    ORVDateUnitSingleStruct() : nUnit(0), nStyle(0) {}
-    ORVDateUnitSingleStruct(const ORVDateUnitSingleStruct& row) = default;
-    ORVDateUnitSingleStruct& operator=(const ORVDateUnitSingleStruct& row) = default;
+    int nUnit = 0;
+    int nStyle = 0;
 
     void Dump(CDumpContext& dc) const;
 };

@@ -61,8 +61,10 @@ void COrvIniReader::SetINIFileName(CString strFileName) {
 CString COrvIniReader::GetKeyValue(CString strKey, CString strSection) {
     char value[kValueRoom] = "";
     m_lRetValue = ::GetPrivateProfileStringA(strSection, strKey, "", value, kValueRoom, m_strFileName);
-    const std::string_view whole = orv::wholeCharacters(value);
-    return CString(whole.data(), static_cast<int>(whole.size()));
+    std::string_view text = value;
+    if (m_lRetValue == kValueRoom - 1) // perhaps cut, and then inside a character
+        text = orv::wholeCharacters(text);
+    return CString(text.data(), static_cast<int>(text.size()));
 }
 
 LONG COrvIniReader::SetKey(CString strValue, CString strKey, CString strSection) {

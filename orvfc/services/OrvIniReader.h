@@ -11,7 +11,7 @@
 class ORVFC_API COrvIniReader {
 public:
     COrvIniReader();
-    explicit COrvIniReader(CString strFileName);
+    COrvIniReader(CString strFileName);
     // Copies have lists of their own.
     COrvIniReader(const COrvIniReader& other);
     COrvIniReader& operator=(const COrvIniReader& other);

@@ -14,12 +14,18 @@ constexpr DWORD kPointRoom = 20;
 // What m_Info tells of points instead of REG_BINARY; callers may rely on it.
 constexpr DWORD kPointType = REG_EXPAND_SZ;
 
-BOOL wentWell(orv::StreamOutcome outcome, const char* lpszOperation) {
-    if (outcome == orv::StreamOutcome::damaged)
-        TRACE("CArchiveException exception in CRegistry::%s ()!\n", lpszOperation);
+// Writing has no other trace.
+BOOL wasStored(orv::StreamOutcome outcome) {
     if (outcome == orv::StreamOutcome::noMemory)
-        TRACE("Memory exception in CRegistry::%s ()!\n", lpszOperation);
-    UNUSED(lpszOperation);
+        TRACE("Memory exception in CRegistry::Write ()!\n");
+    return outcome == orv::StreamOutcome::good;
+}
+
+BOOL wasLoaded(orv::StreamOutcome outcome) {
+    if (outcome == orv::StreamOutcome::damaged)
+        TRACE("CArchiveException exception in CRegistry::Read ()!\n");
+    if (outcome == orv::StreamOutcome::noMemory)
+        TRACE("Memory exception in CRegistry::Read ()!\n");
     return outcome == orv::StreamOutcome::good;
 }
 
@@ -130,8 +136,8 @@ BOOL COrvRegStore::WriteStream(const char* lpszName, StoreValue store) {
     if (!MayWrite(lpszName))
         return FALSE;
     orv::StreamBytes bytes;
-    return wentWell(store(bytes), "Write") && !bytes.empty() &&
-           Write(lpszName, bytes.data(), static_cast<unsigned int>(bytes.size()));
+    return wasStored(store(bytes)) && !bytes.empty() &&
+           SetValue(lpszName, REG_BINARY, bytes.data(), bytes.size(), REG_BINARY);
 }
 
 BOOL COrvRegStore::WriteShort(const char* lpszName, CObject& collection) {
@@ -179,7 +185,7 @@ BOOL COrvRegStore::Write(const char* lpszName, POINT*& pPoint) {
         return FALSE;
     ASSERT(pPoint != NULL);
     orv::StreamBytes bytes;
-    if (pPoint == NULL || !wentWell(orv::storePoint(*pPoint, bytes), "Write"))
+    if (pPoint == NULL || !wasStored(orv::storePoint(*pPoint, bytes)))
         return FALSE;
     ASSERT(bytes.size() < kPointRoom);
     return SetValue(lpszName, REG_BINARY, bytes.data(), bytes.size(), kPointType);
@@ -188,13 +194,15 @@ BOOL COrvRegStore::Write(const char* lpszName, POINT*& pPoint) {
 // --- reading
 // -------------------------------------------------------------------------------------------------------
 
-// Up to nRoom bytes of the value, whatever its type; m_Info tells what there is.
+// Up to nRoom bytes of the value, whatever its type; m_Info tells what there is, zeros for nothing.
 BOOL COrvRegStore::Query(const char* lpszName, void* pData, DWORD nRoom) {
     DWORD dwType = REG_NONE;
     DWORD dwSize = nRoom;
     const LONG lResult =
         ::RegQueryValueExA(m_hKey, lpszName, NULL, &dwType, static_cast<BYTE*>(pData), &dwSize);
-    m_Info = {lResult, dwType, dwSize};
+    m_Info = {lResult, 0, 0};
+    if (lResult == ERROR_SUCCESS || lResult == ERROR_MORE_DATA)
+        m_Info = {lResult, dwType, dwSize};
     return lResult == ERROR_SUCCESS;
 }
 
@@ -222,6 +230,21 @@ BOOL COrvRegStore::Read(const char* lpszName, CString& strValue) {
     return TRUE;
 }
 
+// The whole value, which must be binary, in a new block; null for failure.
+BYTE* COrvRegStore::QueryBlock(const char* lpszName) {
+    if (!Query(lpszName, NULL, 0))
+        return NULL;
+    ASSERT(m_Info.dwType == REG_BINARY);
+    if (m_Info.dwType != REG_BINARY)
+        return NULL;
+    std::unique_ptr<BYTE[]> block(new (std::nothrow) BYTE[m_Info.dwSize]);
+    if (!block) {
+        m_Info.lResult = ERROR_NOT_ENOUGH_MEMORY;
+        return NULL;
+    }
+    return Query(lpszName, block.get(), m_Info.dwSize) ? block.release() : NULL;
+}
+
 BOOL COrvRegStore::Read(const char* lpszName, unsigned char** ppData, unsigned int* pnSize) {
     ASSERT(ppData != NULL && pnSize != NULL);
     if (ppData == NULL || pnSize == NULL)
@@ -230,26 +253,11 @@ BOOL COrvRegStore::Read(const char* lpszName, unsigned char** ppData, unsigned i
     *pnSize = 0;
     if (!IsOpen(lpszName))
         return FALSE;
-    if (!Query(lpszName, NULL, 0)) {
-        m_Info.dwType = REG_BINARY;
-        return FALSE;
-    }
-    ASSERT(m_Info.dwType == REG_BINARY);
-    if (m_Info.dwType != REG_BINARY)
-        return FALSE;
-    const DWORD dwSize = m_Info.dwSize;
-    std::unique_ptr<BYTE[]> block(new (std::nothrow) BYTE[dwSize]);
-    if (!block) {
-        m_Info.lResult = ERROR_NOT_ENOUGH_MEMORY;
-        return FALSE;
-    }
-    const BOOL bRead = Query(lpszName, block.get(), dwSize);
-    m_Info.dwType = REG_BINARY;
-    if (!bRead)
-        return FALSE;
-    *pnSize = m_Info.dwSize;
-    *ppData = block.release();
-    return TRUE;
+    *ppData = QueryBlock(lpszName);
+    if (*ppData != NULL)
+        *pnSize = m_Info.dwSize;
+    m_Info = {m_Info.lResult, REG_BINARY, *pnSize};
+    return *ppData != NULL;
 }
 
 template <class Value>
@@ -257,7 +265,7 @@ BOOL COrvRegStore::ReadShort(const char* lpszName, Value& value) {
     BYTE block[kStreamRoom];
     if (!IsOpen(lpszName) || !Query(lpszName, block, kStreamRoom) || m_Info.dwType != REG_BINARY)
         return FALSE;
-    return wentWell(orv::loadStream(orv::StreamView(block, m_Info.dwSize), value), "Read");
+    return wasLoaded(orv::loadStream(orv::StreamView(block, m_Info.dwSize), value));
 }
 
 BOOL COrvRegStore::Read(const char* lpszName, CStringList& list) {
@@ -290,7 +298,7 @@ BOOL COrvRegStore::Read(const char* lpszName, POINT*& pPoint) {
     m_Info = {found.lResult, kPointType, sizeof(POINT)};
     if (!bRead || found.dwType != REG_BINARY)
         return FALSE;
-    return wentWell(orv::loadStream(orv::StreamView(block, found.dwSize), *pPoint), "Read");
+    return wasLoaded(orv::loadStream(orv::StreamView(block, found.dwSize), *pPoint));
 }
 
 template <class Value>
@@ -300,7 +308,7 @@ BOOL COrvRegStore::ReadAny(const char* lpszName, Value& value) {
     if (!Read(lpszName, &pData, &nSize))
         return FALSE;
     const std::unique_ptr<BYTE[]> block(pData);
-    return wentWell(orv::loadStream(orv::StreamView(pData, nSize), value), "Read");
+    return wasLoaded(orv::loadStream(orv::StreamView(pData, nSize), value));
 }
 
 BOOL COrvRegStore::Read(const char* lpszName, CRect& rect) {

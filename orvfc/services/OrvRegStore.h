@@ -17,8 +17,10 @@ public:
     // Outcome of the last registry call.
     struct REGINFO {
         LONG lResult; // status that the registry gave, 0 = success
-        DWORD dwType; // of the value last written or read; 0 after a call on a key
-        DWORD dwSize; // bytes of the value last written or read; 0 after a call on a key
+        // Type and bytes of the value last written or read, also of one that is too long or of the wrong
+        // type; 0 after a call on a key and when there is no such value. Blocks and points have their own.
+        DWORD dwType;
+        DWORD dwSize;
     };
 
     virtual ~COrvRegStore(); // closes the key
@@ -66,8 +68,8 @@ public:
     // Up to the first zero byte. A value of more than 200 bytes, closing zero included, cannot be read.
     BOOL Read(const char* lpszName, CString& strValue);
     // A binary value of any length, in a block that the caller frees with delete[]; 0 bytes are a block as
-    // well. Failure: null and 0. A value of another type is an assertion, then failure, and m_Info tells its
-    // type.
+    // well. Failure: null and 0. A value of another type is an assertion, then failure. m_Info tells type 3
+    // and *pnSize in any case.
     BOOL Read(const char* lpszName, unsigned char** ppData, unsigned int* pnSize);
     // Binary values of at most 4096 bytes; those of another type are refused. Arrays are replaced, a list
     // gets the strings behind those that it has.
@@ -82,8 +84,9 @@ public:
     // ERROR_MORE_DATA, deliberately. m_Info tells type 2, size 8.
     BOOL Read(const char* lpszName, POINT*& pPoint);
     BOOL Read(const char* lpszName, CRect& rect);
-    // New objects, the caller's to delete, behind those that the list has. The objects that a damaged stream
-    // has given by then are deleted again, each once.
+    // New objects, the caller's to delete, behind those that the list has. After a damaged stream the list is
+    // as before, and the objects read by then are nobody's: they are not deleted, since the stream may have
+    // given one of them to another that deletes it as well.
     BOOL Read(const char* lpszName, CObList& list);
     // An object is left as its own Serialize leaves it when the stream is damaged.
     BOOL Read(const char* lpszName, CObject& object);
@@ -112,6 +115,7 @@ private:
     BOOL OpenBelow(const char* lpszPath);
     BOOL IsOpen(const char* lpszName) const;
     BOOL Query(const char* lpszName, void* pData, DWORD nRoom);
+    BYTE* QueryBlock(const char* lpszName);
     BOOL WriteShort(const char* lpszName, CObject& collection);
     template <class StoreValue>
     BOOL WriteStream(const char* lpszName, StoreValue store);

@@ -21,8 +21,10 @@ BOOL COrvRegister::Open(const char* lpszPath, int bCreate) {
 }
 
 BOOL COrvRegister::Write(const char* lpszName, const char* lpszText) {
+    if (!MayWrite(lpszName))
+        return FALSE;
     ASSERT(lpszText != NULL);
-    if (!MayWrite(lpszName) || lpszText == NULL)
+    if (lpszText == NULL)
         return FALSE;
     return SetValue(lpszName, REG_SZ, lpszText, strlen(lpszText) + 1, REG_SZ);
 }

@@ -15,8 +15,10 @@ BOOL COrvRegistry::Open(const char* lpszPath, int bCreate) {
 }
 
 BOOL COrvRegistry::Write(const char* lpszName, const char* lpszText) {
+    if (!MayWrite(lpszName))
+        return FALSE;
     ASSERT(lpszText != NULL);
-    if (!MayWrite(lpszName) || lpszText == NULL)
+    if (lpszText == NULL)
         return FALSE;
     try {
         const size_t nLength = strlen(lpszText) + 1;

@@ -4,7 +4,6 @@
 #include <limits.h>
 #include <new>
 #include <string.h>
-#include <unordered_set>
 
 namespace orv {
 
@@ -58,16 +57,13 @@ StreamOutcome load(StreamView bytes, const std::function<void(CArchive&)>& read)
     });
 }
 
-// An object may stand in the list more than once.
-void deleteBehind(CObList& list, INT_PTR nKeep) {
-    outcomeOf([&] {
-        std::unordered_set<CObject*> deleted;
-        while (list.GetCount() > nKeep) {
-            CObject* pObject = list.RemoveTail();
-            if (deleted.insert(pObject).second)
-                delete pObject;
-        }
-    });
+template <class List>
+StreamOutcome loadList(StreamView bytes, List& list) {
+    const INT_PTR nBefore = list.GetCount();
+    const StreamOutcome outcome = load(bytes, [&](CArchive& ar) { list.Serialize(ar); });
+    while (outcome != StreamOutcome::good && list.GetCount() > nBefore)
+        list.RemoveTail();
+    return outcome;
 }
 
 } // namespace
@@ -99,19 +95,11 @@ StreamOutcome storePoint(POINT point, StreamBytes& bytes) {
 }
 
 StreamOutcome loadStream(StreamView bytes, CStringList& list) {
-    const INT_PTR nBefore = list.GetCount();
-    const StreamOutcome outcome = load(bytes, [&](CArchive& ar) { list.Serialize(ar); });
-    while (outcome != StreamOutcome::good && list.GetCount() > nBefore)
-        list.RemoveTail();
-    return outcome;
+    return loadList(bytes, list);
 }
 
 StreamOutcome loadStream(StreamView bytes, CObList& list) {
-    const INT_PTR nBefore = list.GetCount();
-    const StreamOutcome outcome = load(bytes, [&](CArchive& ar) { list.Serialize(ar); });
-    if (outcome != StreamOutcome::good)
-        deleteBehind(list, nBefore);
-    return outcome;
+    return loadList(bytes, list);
 }
 
 StreamOutcome loadStream(StreamView bytes, CObject& object) {

@@ -32,8 +32,9 @@ StreamOutcome storeRect(const RECT& rect, StreamBytes& bytes);
 StreamOutcome storePoint(POINT point, StreamBytes& bytes);
 
 // Loading by the value's own Serialize: arrays are replaced, lists get the elements behind those they have. A
-// list of objects keeps nothing of a damaged stream: the objects read by then are deleted. Any other object
-// is left as its Serialize leaves it.
+// list of objects keeps nothing of a damaged stream, and the objects read by then stay undeleted: the stream
+// may have put one of them into the list and into the hands of another, which deletes it as well. Any other
+// object is left as its Serialize leaves it.
 StreamOutcome loadStream(StreamView bytes, CStringList& list);
 StreamOutcome loadStream(StreamView bytes, CObList& list);
 StreamOutcome loadStream(StreamView bytes, CObject& object);

@@ -18,8 +18,7 @@ public:
     static CString GetAppPath();
     static CString GetAppPathAbsolute(); // the same
     // How many lines the mouse wheel scrolls, by the user's desktop setting; 3 without one, and when the
-    // value is no text. 0xFFFFFFFF (also
-    // for anything larger) means a page.
+    // value is no text. 0xFFFFFFFF (also for anything larger) means a page.
     static UINT GetMouseScrollLines();
 
 private:

@@ -185,6 +185,7 @@ TEST(DateFormatRows, Dump) {
     EXPECT_NE(text.npos, text.find("nUnit = 2, nStyle = 20")) << text;
 }
 
-static_assert(sizeof(ORVDateUnitSingleStruct) == 8 && offsetof(ORVDateUnitSingleStruct, nStyle) == 4);
+static_assert(sizeof(ORVDateUnitSingleStruct) == 8 && ORVDateUnitSingleStruct{1, 2}.nUnit == 1);
+static_assert(offsetof(ORVDateUnitSingleStruct, nStyle) == 4);
 
 } // namespace

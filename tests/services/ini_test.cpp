@@ -78,6 +78,11 @@ TEST_F(IniReader, LongValues) {
     EXPECT_TRUE(ini.GetKeyValue("b", "s") == ascii.c_str());
     EXPECT_TRUE(ini.GetKeyValue("c", "s") == chinese.substr(0, 254).c_str());
     EXPECT_TRUE(ini.GetKeyValue("d", "s") == ("x" + chinese.substr(0, 252)).c_str());
+    // Half a character that the file itself ends with is the system's to tell.
+    ini.SetINIFileName(folder_.write("half.ini", "[s]\r\na=x\xD6"));
+    char bare[255] = "";
+    ::GetPrivateProfileStringA("s", "a", "", bare, sizeof(bare), ini.m_strFileName);
+    EXPECT_STREQ(bare, ini.GetKeyValue("a", "s"));
 }
 
 // Listings hold 1998 bytes; what does not fit whole is left out.
@@ -107,7 +112,15 @@ TEST_F(IniReader, LongListings) {
 }
 
 TEST_F(IniReader, OddFiles) {
-    COrvIniReader ini(folder_.write("bom.ini", "\xEF\xBB\xBF[first]\r\na=1\r\n[second]\r\nb=2"));
+    // Whether a section is found directly behind a byte order mark is the system's affair.
+    COrvIniReader ini = folder_.write("bom.ini", "\xEF\xBB\xBF[first]\r\na=1\r\n[second]\r\nb=2");
+    char bare[255] = "";
+    ::GetPrivateProfileStringA("first", "a", "", bare, sizeof(bare), ini.m_strFileName);
+    const bool known = bare[0] != '\0';
+    EXPECT_STREQ(known ? "1" : "", ini.GetKeyValue("a", "first"));
+    EXPECT_EQ(known, ini.SectionExists("first") != 0);
+    EXPECT_EQ(known ? "a=1|" : "", joined(ini.GetSectionData("first")));
+    EXPECT_NE(std::string::npos, joined(ini.GetSectionNames()).find("second|"));
     EXPECT_TRUE(ini.GetKeyValue("b", "second") == "2"); // no newline at the end
     std::string binary;
     for (int i = 0; i < 70000; ++i)

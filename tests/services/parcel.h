@@ -1,10 +1,11 @@
 #pragma once
 
-// A host's own serial class.
+// A host's own serial classes.
 
 #include <afx.h>
 
 #include <functional>
+#include <set>
 
 namespace orv::test {
 
@@ -12,14 +13,25 @@ class Parcel : public CObject {
     DECLARE_SERIAL(Parcel)
 
 public:
-    Parcel() { ++live(); }
-    ~Parcel() override { --live(); }
+    Parcel() { all().insert(this); }
+    ~Parcel() override { all().erase(this); }
     void Serialize(CArchive& ar) override;
 
-    static int& live(); // how many there are
+    static std::set<Parcel*>& all(); // that live
 
     LONG m_nWeight = 0;
     std::function<void()> m_onSerialize; // called first, when there is one
+};
+
+// Deletes its content.
+class Crate : public Parcel {
+    DECLARE_SERIAL(Crate)
+
+public:
+    ~Crate() override { delete m_pContent; }
+    void Serialize(CArchive& ar) override;
+
+    Parcel* m_pContent = NULL;
 };
 
 } // namespace orv::test
