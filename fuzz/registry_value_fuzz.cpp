@@ -22,20 +22,21 @@ void check(bool good) {
         abort();
 }
 
-// Two objects may point to one another.
+// Two objects may point to one another. Deletes the one that it points to.
 class Knot : public CObject {
     DECLARE_SERIAL(Knot)
 
 public:
+    ~Knot() override { delete link_; }
     void Serialize(CArchive& ar) override {
         if (ar.IsStoring())
-            ar << n_ << link_;
+            ar << link_ << n_;
         else
-            ar >> n_ >> link_;
+            ar >> link_ >> n_;
     }
 
-    LONG n_ = 0;
     CObject* link_ = nullptr;
+    LONG n_ = 0;
 };
 
 IMPLEMENT_SERIAL(Knot, CObject, 1)
@@ -88,7 +89,7 @@ void collect(CObject* object, std::unordered_set<CObject*>& found) {
 }
 
 void checkObjects(StreamView bytes) {
-    // Objects that own nothing lose those that they point to when a damaged stream is undone.
+    // What a damaged stream has given stays undeleted, since it may have two owners.
     __lsan_disable();
     CObList list;
     if (orv::loadStream(bytes, list) != StreamOutcome::good)
@@ -97,6 +98,9 @@ void checkObjects(StreamView bytes) {
     std::unordered_set<CObject*> objects;
     for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
         collect(list.GetNext(pos), objects);
+    for (CObject* object : objects)
+        if (auto* knot = DYNAMIC_DOWNCAST(Knot, object))
+            knot->link_ = nullptr;
     for (CObject* object : objects)
         delete object;
     __lsan_enable();

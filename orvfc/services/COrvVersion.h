@@ -29,7 +29,7 @@ struct tagVersionInformation {
 class ORVFC_API COrvVersion {
 public:
     COrvVersion();                // of the running program
-    COrvVersion(CString strPath); // empty: of the running program
+    COrvVersion(CString strPath); // empty: of the running program. A path may stand for its version
     virtual ~COrvVersion();
     COrvVersion(const COrvVersion&) = default;
     COrvVersion& operator=(const COrvVersion&) = default;

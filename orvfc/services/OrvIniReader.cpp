@@ -61,9 +61,7 @@ void COrvIniReader::SetINIFileName(CString strFileName) {
 CString COrvIniReader::GetKeyValue(CString strKey, CString strSection) {
     char value[kValueRoom] = "";
     m_lRetValue = ::GetPrivateProfileStringA(strSection, strKey, "", value, kValueRoom, m_strFileName);
-    std::string_view text = value;
-    if (m_lRetValue == kValueRoom - 1) // perhaps cut, and then inside a character
-        text = orv::wholeCharacters(text);
+    const std::string_view text = orv::profileValue(value, kValueRoom);
     return CString(text.data(), static_cast<int>(text.size()));
 }
 

@@ -5,13 +5,14 @@
 
 // Keys and sections of one INI file, through the system's private-profile functions: names are found whatever
 // their case, the first of several equal ones wins, a name without a path is looked for in the Windows
-// directory. Nothing reports an error but the values themselves: a missing file gives empty texts and lists.
+// directory, and whether a section directly behind a byte order mark is found differs between systems.
+// Nothing reports an error but the values themselves: a missing file gives empty texts and lists.
 //
 // In GetKeyValue and SetKey the section comes last.
 class ORVFC_API COrvIniReader {
 public:
     COrvIniReader();
-    COrvIniReader(CString strFileName);
+    COrvIniReader(CString strFileName); // a path may stand where a reader is asked for
     // Copies have lists of their own.
     COrvIniReader(const COrvIniReader& other);
     COrvIniReader& operator=(const COrvIniReader& other);

@@ -26,7 +26,9 @@ std::vector<std::string> splitProfileStrings(std::string_view buffer) {
     return strings;
 }
 
-std::string_view wholeCharacters(std::string_view text) {
+std::string_view profileValue(std::string_view text, size_t nRoom) {
+    if (text.size() + 1 < nRoom)
+        return text;
     size_t nWhole = 0;
     while (nWhole < text.size()) {
         const size_t nNext = nWhole + (isLeadByte(text[nWhole]) ? 2 : 1);

@@ -12,7 +12,8 @@ namespace orv {
 // its zero: the buffer has cut it.
 std::vector<std::string> splitProfileStrings(std::string_view buffer);
 
-// The text without a lead byte at its end whose second half the buffer has cut off (code page 936).
-std::string_view wholeCharacters(std::string_view text);
+// The value that a buffer of nRoom bytes holds. When it fills the buffer it may have been cut: then without a
+// lead byte at its end whose second half is missing (code page 936).
+std::string_view profileValue(std::string_view text, size_t nRoom);
 
 } // namespace orv

@@ -26,15 +26,23 @@ TEST(ProfileText, SplitsAtZeros) {
         EXPECT_EQ(row.strings, orv::splitProfileStrings(row.buffer)) << row.buffer;
 }
 
-TEST(ProfileText, WholeCharacters) {
+TEST(ProfileText, ValuesOfFullBuffers) {
     struct {
-        std::string_view text, whole;
+        std::string_view text;
+        size_t room;
+        std::string_view value;
     } const rows[] = {
-        {"", ""},     {"ab", "ab"},       {"\xD6\xD0", "\xD6\xD0"}, {"a\xD6\xD0\xCE", "a\xD6\xD0"},
-        {"\xCE", ""}, {"a\x80", "a\x80"}, {"a\xFF", "a\xFF"},
+        {"", 1, ""},
+        {"ab", 3, "ab"},
+        {"\xD6\xD0", 3, "\xD6\xD0"},
+        {"a\xD6\xD0\xCE", 5, "a\xD6\xD0"},
+        {"a\xD6\xD0\xCE", 6, "a\xD6\xD0\xCE"}, // not cut: the system gave it so
+        {"\xCE", 2, ""},
+        {"a\x80", 3, "a\x80"},
+        {"a\xFF", 3, "a\xFF"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(row.whole, orv::wholeCharacters(row.text)) << row.text;
+        EXPECT_EQ(row.value, orv::profileValue(row.text, row.room)) << row.text << " " << row.room;
 }
 
 namespace {
