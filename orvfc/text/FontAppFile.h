@@ -1,0 +1,5 @@
+#pragma once
+
+// Fonts and texts.
+
+#include <orvfc/text/OrvFont.h>
