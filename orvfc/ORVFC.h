@@ -15,6 +15,8 @@
 #include <orvfc/linestyle/LineTypeSet.h>
 #include <orvfc/linestyle/LineWidthSet.h>
 #include <orvfc/linestyle/OrvGraphic.h>
+#include <orvfc/pickers/ColorSet.h>
+#include <orvfc/pickers/OrvRecordCombo.h>
 #include <orvfc/services/COrvVersion.h>
 #include <orvfc/services/DateFormat.h>
 #include <orvfc/services/DynamicArray.h>

@@ -2,7 +2,7 @@
 
 #include <orvfc/services/NamedRows.h>
 
-#include "ArchiveFields.h"
+#include <orvfc/services/ArchiveFields.h>
 
 template class COrvNamedSet<LineTypeStruct, unsigned int>;
 

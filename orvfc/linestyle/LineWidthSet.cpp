@@ -4,7 +4,7 @@
 
 #include <orvfc/services/NamedRows.h>
 
-#include "ArchiveFields.h"
+#include <orvfc/services/ArchiveFields.h>
 
 template class COrvNamedSet<LineWidthStruct, double>;
 

@@ -1,6 +1,6 @@
 #include "OrvDrawBasicDash.h"
 
-#include "ArchiveFields.h"
+#include <orvfc/services/ArchiveFields.h>
 
 COrvDrawBasicDash::COrvDrawBasicDash() : COrvDrawBasicDash(HDC(NULL)) {}
 

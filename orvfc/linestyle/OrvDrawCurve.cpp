@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "ArchiveFields.h"
+#include <orvfc/services/ArchiveFields.h>
 #include "OrvDrawDashRailway.h"
 #include "OrvDrawDashWeaver.h"
 #include "OrvOnOffDash.h"

@@ -3,7 +3,7 @@
 #include <orvmathfunc/orvmathfunc.h>
 #include <orvfc/geometry/Truncate.h>
 
-#include "ArchiveFields.h"
+#include <orvfc/services/ArchiveFields.h>
 #include "Stroke.h"
 
 COrvDrawDashWeaver::COrvDrawDashWeaver() : COrvDrawDashWeaver(HDC(NULL)) {}

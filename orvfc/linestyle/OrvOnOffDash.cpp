@@ -3,7 +3,7 @@
 #include <orvmathfunc/orvmathfunc.h>
 #include <orvfc/geometry/Truncate.h>
 
-#include "ArchiveFields.h"
+#include <orvfc/services/ArchiveFields.h>
 #include "OnOffPhases.h"
 #include "PathWalk.h"
 #include "Stroke.h"

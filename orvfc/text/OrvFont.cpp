@@ -5,7 +5,7 @@
 #include <memory>
 
 #include <orvfc/geometry/Truncate.h>
-#include <orvfc/linestyle/ArchiveFields.h>
+#include <orvfc/services/ArchiveFields.h>
 
 #include "FaceName.h"
 

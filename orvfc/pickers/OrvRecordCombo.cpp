@@ -1,0 +1,254 @@
+#include "OrvRecordCombo.h"
+
+#include "NameSearch.h"
+#include "RowPaint.h"
+
+namespace {
+
+// A pause between keys that begins a new search, in milliseconds.
+constexpr DWORD kNewSearch = 1000;
+
+class Flag {
+public:
+    explicit Flag(BOOL& bFlag) : m_bFlag(bFlag), m_bBefore(bFlag) { m_bFlag = TRUE; }
+    ~Flag() { m_bFlag = m_bBefore; }
+    Flag(const Flag&) = delete;
+    Flag& operator=(const Flag&) = delete;
+
+private:
+    BOOL& m_bFlag;
+    BOOL m_bBefore;
+};
+
+} // namespace
+
+COrvCmbRecord::~COrvCmbRecord() = default;
+
+void COrvCmbRecord::Dump(CDumpContext& dc) const {
+    dc << "record " << GetName() << "\n";
+}
+
+IMPLEMENT_DYNAMIC(COrvRecordCombo, CComboBox)
+
+BEGIN_MESSAGE_MAP(COrvRecordCombo, CComboBox)
+ON_WM_CREATE()
+ON_WM_CHAR()
+ON_CONTROL_REFLECT_EX(CBN_SELCHANGE, &COrvRecordCombo::OnReflectSelchange)
+END_MESSAGE_MAP()
+
+COrvRecordCombo::COrvRecordCombo(CWnd* pMessageWnd, int nRowHeight)
+    : m_pMessageWnd(pMessageWnd), m_nRowHeight(nRowHeight), m_bFilling(FALSE), m_dwTyped(0), m_chLead(0) {}
+
+// A window that outlives its object would keep the records for ever.
+COrvRecordCombo::~COrvRecordCombo() {
+    if (m_hWnd)
+        DestroyWindow();
+}
+
+// --- attaching
+
+BOOL COrvRecordCombo::PreCreateWindow(CREATESTRUCT& cs) {
+    cs.style |= CBS_HASSTRINGS;
+    if (!(cs.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)))
+        cs.style |= CBS_OWNERDRAWFIXED;
+    if (!(cs.style & CBS_DROPDOWNLIST))
+        cs.style |= CBS_DROPDOWNLIST;
+    return CComboBox::PreCreateWindow(cs);
+}
+
+void COrvRecordCombo::PreSubclassWindow() {
+    CComboBox::PreSubclassWindow();
+    // Before its WM_CREATE there is no list to set heights for.
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    if (GetComboBoxInfo(&info) && info.hwndList)
+        SetHeights();
+}
+
+int COrvRecordCombo::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    const int nResult = CComboBox::OnCreate(lpCreateStruct);
+    if (nResult == 0)
+        SetHeights();
+    return nResult;
+}
+
+// In a dialog WM_MEASUREITEM has come and gone before the combo is attached.
+void COrvRecordCombo::SetHeights() {
+    SetItemHeight(-1, static_cast<UINT>(m_nRowHeight));
+    SetItemHeight(0, static_cast<UINT>(m_nRowHeight));
+}
+
+BOOL COrvRecordCombo::OwnsItems() const {
+    return (GetStyle() & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0;
+}
+
+BOOL COrvRecordCombo::HasStrings() const {
+    return (GetStyle() & CBS_HASSTRINGS) != 0;
+}
+
+// --- records
+
+int COrvRecordCombo::InsertRecord(int nIndex, COrvCmbRecord* pRecord) {
+    // Only owner-drawn combos say when an item goes.
+    ASSERT(m_hWnd && OwnsItems());
+    int nItem = CB_ERR;
+    if (m_hWnd && OwnsItems() && nIndex >= -1) {
+        const Flag filling(m_bFilling);
+        if (HasStrings()) {
+            nItem = InsertString(nIndex, pRecord ? pRecord->GetName() : CString());
+            if (nItem >= 0)
+                SetItemDataPtr(nItem, pRecord);
+        } else {
+            nItem = InsertString(nIndex, reinterpret_cast<LPCTSTR>(pRecord));
+        }
+    }
+    if (nItem < 0)
+        delete pRecord;
+    return nItem;
+}
+
+COrvCmbRecord* COrvRecordCombo::GetRecord(int nIndex) const {
+    if (!m_hWnd || nIndex < 0 || nIndex >= GetCount())
+        return NULL;
+    return static_cast<COrvCmbRecord*>(GetItemDataPtr(nIndex));
+}
+
+void COrvRecordCombo::SetInit() {
+    if (m_hWnd && GetCount() > 0)
+        SetCurSel(0);
+}
+
+void COrvRecordCombo::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    CDC* pDC = CDC::FromHandle(lpDrawItemStruct->hDC);
+    if (!pDC)
+        return;
+    const orv::SavedDC saved(pDC);
+    const CRect rc(lpDrawItemStruct->rcItem);
+    const int nState = static_cast<int>(lpDrawItemStruct->itemState & (ODS_SELECTED | ODS_DISABLED));
+    if (lpDrawItemStruct->itemID == static_cast<UINT>(-1))
+        orv::paintBackground(pDC, rc, nState);
+    else if (auto* pRecord = reinterpret_cast<COrvCmbRecord*>(lpDrawItemStruct->itemData))
+        pRecord->DrawItem(pDC, rc, nState);
+}
+
+void COrvRecordCombo::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
+    lpMeasureItemStruct->itemHeight = static_cast<UINT>(m_nRowHeight);
+}
+
+void COrvRecordCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
+    delete reinterpret_cast<COrvCmbRecord*>(lpDeleteItemStruct->itemData);
+    lpDeleteItemStruct->itemData = 0;
+}
+
+// --- choices
+
+BOOL COrvRecordCombo::OnReflectSelchange() {
+    OnSelchange();
+    // Go on to the parent's own handler.
+    return FALSE;
+}
+
+void COrvRecordCombo::PostChoice(UINT message) {
+    if (m_pMessageWnd) {
+        if (m_pMessageWnd->GetSafeHwnd())
+            m_pMessageWnd->PostMessage(message);
+    } else if (const HWND hParent = m_hWnd ? ::GetParent(m_hWnd) : NULL) {
+        ::PostMessage(hParent, message, static_cast<WPARAM>(GetDlgCtrlID()), 0);
+    }
+}
+
+// --- typing
+
+CString COrvRecordCombo::TypedCharacter(UINT nChar) {
+    char bytes[4] = "";
+    if (::IsWindowUnicode(m_hWnd)) {
+        const auto ch = static_cast<WCHAR>(nChar);
+        ::WideCharToMultiByte(CP_ACP, 0, &ch, 1, bytes, 2, NULL, NULL);
+    } else if (m_chLead) {
+        bytes[0] = m_chLead;
+        bytes[1] = static_cast<char>(nChar);
+        m_chLead = 0;
+    } else if (::IsDBCSLeadByte(static_cast<BYTE>(nChar))) {
+        m_chLead = static_cast<char>(nChar);
+    } else {
+        bytes[0] = static_cast<char>(nChar);
+    }
+    return CString(bytes);
+}
+
+void COrvRecordCombo::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    const DWORD dwNow = static_cast<DWORD>(::GetMessageTime());
+    if (dwNow - m_dwTyped > kNewSearch)
+        m_strTyped.Empty();
+    // Control keys, and a blank that begins nothing, are the system's.
+    if (nChar < ' ' || (nChar == ' ' && m_strTyped.IsEmpty())) {
+        m_strTyped.Empty();
+        CComboBox::OnChar(nChar, nRepCnt, nFlags);
+        return;
+    }
+    m_dwTyped = dwNow;
+    m_strTyped += TypedCharacter(nChar);
+    if (!m_chLead)
+        SelectTyped();
+}
+
+void COrvRecordCombo::SelectTyped() {
+    const int nSelected = GetCurSel();
+    const int nFound = orv::rowTyped(m_strTyped, GetCount(), nSelected, [this](int nRow) {
+        const COrvCmbRecord* pRecord = GetRecord(nRow);
+        return pRecord ? pRecord->GetName() : CString();
+    });
+    if (nFound < 0 || nFound == nSelected)
+        return;
+    CComboBox::SetCurSel(nFound);
+    // The parent hears of it as of any other key.
+    const HWND hWnd = m_hWnd;
+    const HWND hParent = ::GetParent(hWnd);
+    const auto tell = [&](UINT code) {
+        if (::IsWindow(hWnd))
+            ::SendMessage(hParent, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(hWnd), code),
+                          reinterpret_cast<LPARAM>(hWnd));
+    };
+    if (!GetDroppedState())
+        tell(CBN_SELENDOK);
+    tell(CBN_SELCHANGE);
+}
+
+// --- messages from anywhere
+
+LRESULT COrvRecordCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case CB_SETITEMDATA:
+        // Somebody else's pointer would be deleted as a record.
+        if (!m_bFilling)
+            return CB_ERR;
+        break;
+    case CB_ADDSTRING:
+    case CB_INSERTSTRING:
+    case CB_DIR:
+        // Without strings the text itself would be the item's data.
+        if (!m_bFilling && !HasStrings())
+            return CB_ERR;
+        break;
+    default:
+        break;
+    }
+    return CComboBox::WindowProc(message, wParam, lParam);
+}
+
+// --- debugging
+
+void COrvRecordCombo::AssertValid() const {
+    CComboBox::AssertValid();
+    ASSERT(m_nRowHeight > 0);
+}
+
+void COrvRecordCombo::Dump(CDumpContext& dc) const {
+    CComboBox::Dump(dc);
+    const int nCount = m_hWnd ? GetCount() : 0;
+    dc << "items = " << nCount << ", selected = " << (m_hWnd ? GetCurSel() : -1)
+       << ", message window = " << static_cast<const void*>(m_pMessageWnd) << "\n";
+    for (int i = 0; i < nCount; ++i)
+        if (const COrvCmbRecord* pRecord = GetRecord(i))
+            pRecord->Dump(dc);
+}

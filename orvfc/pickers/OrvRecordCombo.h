@@ -1,0 +1,110 @@
+#pragma once
+
+#include <afxwin.h>
+#include <orvfc/OrvApi.h>
+
+// What an item of an owner-drawn combo stands for: a value that has a name and can draw itself.
+class ORVFC_API COrvCmbRecord {
+public:
+    virtual ~COrvCmbRecord();
+
+    // The item's text: what typing searches and a screen reader reads.
+    virtual CString GetName() const = 0;
+    // Draws the row into rc, in pixels. nState: ODS_SELECTED (TRUE will do), ODS_DISABLED; other bits do not
+    // count. The device context is left as it was, but for its background colour.
+    virtual void DrawItem(CDC* pDC, const CRect& rc, int nState) = 0;
+    virtual void Dump(CDumpContext& dc) const;
+
+protected:
+    COrvCmbRecord() = default;
+    COrvCmbRecord(const COrvCmbRecord&) = default;
+    COrvCmbRecord& operator=(const COrvCmbRecord&) = default;
+};
+
+// A drop-down list whose items are records on the heap. Each item's data is its record; the combo owns the
+// records and deletes them with their items.
+//
+// Attach it to a dialog's combo (DDX_Control, SubclassDlgItem; give it CBS_OWNERDRAWFIXED and CBS_HASSTRINGS)
+// or create it: then the two styles, and CBS_DROPDOWNLIST where no kind was asked for, are added. Row heights
+// are set in both cases. Without CBS_HASSTRINGS everything works, but other programs see no item texts. The
+// parent must be a window of the foundation: owner-drawing comes back through it. Items go with the window: a
+// window created anew is filled anew.
+//
+// A choice by mouse or keyboard is told to the message window or the parent; selecting in code tells nobody.
+// The host's own ON_CBN_SELCHANGE runs as well, after the combo's part, before what was posted arrives.
+class ORVFC_API COrvRecordCombo : public CComboBox {
+    DECLARE_DYNAMIC(COrvRecordCombo)
+
+public:
+    ~COrvRecordCombo() override;
+
+    // Who is told of choices instead of the parent; NULL: the parent. Not owned: set NULL before it goes. One
+    // that has no window misses the message.
+    void SetMessageWnd(CWnd* pMessageWnd) { m_pMessageWnd = pMessageWnd; }
+    CWnd* GetMessageWnd() const { return m_pMessageWnd; }
+
+    // Selects item 0; an empty list stays as it is.
+    void SetInit();
+
+    // An item without record draws nothing; without item (the empty field) the background alone is drawn.
+    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
+    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
+    void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
+
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
+
+protected:
+    // nRowHeight: of items and field, in pixels.
+    explicit COrvRecordCombo(CWnd* pMessageWnd = NULL, int nRowHeight = 18);
+
+    // Takes the record over and gives its item's index, behind the last item (-1) or before nIndex. On
+    // failure (no window, no room, not owner-drawn, an index that there is not) CB_ERR or CB_ERRSPACE, and
+    // the record is deleted. Null adds an item without record. CBS_SORT does not count.
+    int InsertRecord(int nIndex, COrvCmbRecord* pRecord);
+    // NULL for an index that there is not, and for an item without record.
+    COrvCmbRecord* GetRecord(int nIndex) const;
+    // The first item, from nFirst on, whose record fits; -1 when none does.
+    template <class Record, class Fits>
+    int FindRecord(Fits fits, int nFirst = 0) const {
+        const int nCount = m_hWnd ? GetCount() : 0;
+        for (int i = nFirst; i < nCount; ++i)
+            if (const auto* pRecord = static_cast<const Record*>(GetRecord(i)); pRecord && fits(*pRecord))
+                return i;
+        return -1;
+    }
+    // The selected record; NULL when there is none.
+    template <class Record>
+    const Record* CurrentRecord() const {
+        return static_cast<const Record*>(GetRecord(m_hWnd ? GetCurSel() : -1));
+    }
+
+    // After the selection has changed by mouse or keyboard. The window may be gone when it returns.
+    virtual void OnSelchange() = 0;
+    // Posts: to the message window with wParam 0, else to the parent with wParam = the combo's identifier.
+    // lParam is 0. What was posted may find the combo gone.
+    void PostChoice(UINT message);
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg BOOL OnReflectSelchange();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void SetHeights();
+    BOOL OwnsItems() const;
+    BOOL HasStrings() const;
+    CString TypedCharacter(UINT nChar);
+    void SelectTyped();
+
+    CWnd* m_pMessageWnd;
+    int m_nRowHeight;
+    BOOL m_bFilling;    // the combo itself sets item data
+    CString m_strTyped; // for the search, while the keys follow each other quickly
+    DWORD m_dwTyped;    // when the last one came, in milliseconds
+    char m_chLead;      // first byte of a character whose second byte is still to come
+};

@@ -1,0 +1,49 @@
+#include "RowPaint.h"
+
+namespace orv {
+
+namespace {
+
+int backgroundOf(int nState) {
+    return nState & ODS_DISABLED ? COLOR_BTNFACE : COLOR_WINDOW;
+}
+
+} // namespace
+
+void paintBackground(CDC* pDC, const CRect& rc, int nState) {
+    pDC->SetBkColor(::GetSysColor(backgroundOf(nState)));
+    pDC->ExtTextOut(0, 0, ETO_OPAQUE, &rc, "", 0, NULL);
+}
+
+void paintSelection(CDC* pDC, const CRect& rc, int nState, COLORREF crFrame) {
+    CPen pen;
+    if (!(nState & ODS_SELECTED) || !pen.CreatePen(PS_SOLID, 1, crFrame))
+        return;
+    SavedDC saved(pDC);
+    pDC->SelectObject(&pen);
+    pDC->SelectStockObject(NULL_BRUSH);
+    pDC->Rectangle(&rc);
+}
+
+void paintSwatch(CDC* pDC, const CRect& rcSwatch, const LOGBRUSH& brush) {
+    CBrush fill;
+    if (!fill.CreateBrushIndirect(&brush))
+        return;
+    SavedDC saved(pDC);
+    pDC->SelectObject(&fill);
+    pDC->Rectangle(&rcSwatch);
+}
+
+CRect swatchOf(const CRect& rc) {
+    return CRect(rc.left + 2, rc.top + 2, rc.left + 16, rc.top + 16);
+}
+
+void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int nState) {
+    SavedDC saved(pDC);
+    pDC->SetBkColor(::GetSysColor(backgroundOf(nState)));
+    pDC->SetTextColor(::GetSysColor(nState & ODS_DISABLED ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
+    CRect rcName(rc.left + nLeft, rc.top, rc.right, rc.bottom);
+    pDC->DrawText(strName, &rcName, DT_SINGLELINE | DT_VCENTER);
+}
+
+} // namespace orv

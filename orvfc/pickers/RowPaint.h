@@ -1,0 +1,41 @@
+#pragma once
+
+// The steps by which the rows of the owner-drawn combos are drawn.
+
+#include <afxwin.h>
+
+#include "OrvRecordCombo.h"
+
+namespace orv {
+
+// Gives a device context back as it was: objects, colours, path.
+class SavedDC {
+public:
+    explicit SavedDC(CDC* pDC) : m_pDC(pDC), m_nSaved(pDC->SaveDC()) {}
+    ~SavedDC() { m_pDC->RestoreDC(m_nSaved); }
+    SavedDC(const SavedDC&) = delete;
+    SavedDC& operator=(const SavedDC&) = delete;
+
+private:
+    CDC* m_pDC;
+    int m_nSaved;
+};
+
+constexpr COLORREF kSelectionFrame = 0xFF8000;
+// Where the names stand: behind a square swatch, behind a line sample.
+constexpr int kNameBehindSwatch = 21;
+constexpr int kNameBehindLine = 85;
+constexpr int kLineSample = 80; // width of a line sample
+
+// The whole row in the colour of windows; disabled combos show that of dialogs.
+void paintBackground(CDC* pDC, const CRect& rc, int nState);
+// Round the whole row when it is selected.
+void paintSelection(CDC* pDC, const CRect& rc, int nState, COLORREF crFrame = kSelectionFrame);
+// A rectangle with the current pen.
+void paintSwatch(CDC* pDC, const CRect& rcSwatch, const LOGBRUSH& brush);
+// The square at the left of a row.
+CRect swatchOf(const CRect& rc);
+// From nLeft units behind the row's left edge to its right edge.
+void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int nState);
+
+} // namespace orv

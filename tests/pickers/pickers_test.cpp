@@ -1,0 +1,68 @@
+#include "pickers_test.h"
+
+#include <algorithm>
+
+namespace orv::test {
+
+bool CPickerDlg::open() {
+    if (!Create(IDD_PICKERS))
+        return false;
+    ShowWindow(SW_SHOW);
+    return waitUntil([this] { return ::GetForegroundWindow() == m_hWnd; });
+}
+
+std::string CPickerDlg::toldText() const {
+    std::string text;
+    for (const std::string& line : told)
+        text += line + "; ";
+    return text;
+}
+
+void CPickerDlg::settle() {
+    bool arrived = false;
+    ::PostMessage(m_hWnd, WM_APP, 0, reinterpret_cast<LPARAM>(&arrived));
+    waitUntil([&] { return arrived; });
+}
+
+LRESULT CPickerDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_APP && lParam)
+        *reinterpret_cast<bool*>(lParam) = true;
+    if (message >= 0xC000) {
+        char name[64] = "";
+        // Registered messages share their names' table with clipboard formats.
+        if (::GetClipboardFormatNameA(message, name, sizeof name))
+            told.push_back(std::string(name) + " " + std::to_string(wParam) + " " + std::to_string(lParam));
+    }
+    if (message == WM_COMMAND && HIWORD(wParam) == CBN_SELCHANGE)
+        told.push_back("CBN_SELCHANGE " + std::to_string(LOWORD(wParam)));
+    return CDialog::WindowProc(message, wParam, lParam);
+}
+
+bool focusOn(CWnd& window) {
+    window.SetFocus();
+    return waitUntil([&] { return ::GetFocus() == window.m_hWnd && ::GetForegroundWindow() != NULL; });
+}
+
+Picture::Picture(int width, int height) : m_size(width, height) {
+    CClientDC screen(NULL);
+    dc.CreateCompatibleDC(&screen);
+    m_bitmap.CreateCompatibleBitmap(&screen, width, height);
+    m_old = ::SelectObject(dc.m_hDC, m_bitmap.m_hObject);
+    dc.FillSolidRect(0, 0, width, height, RGB(1, 2, 3));
+}
+
+Picture::~Picture() {
+    ::SelectObject(dc.m_hDC, m_old);
+}
+
+CRect Picture::inked(COLORREF background, int left, int right) const {
+    CRect box(INT_MAX, INT_MAX, INT_MIN, INT_MIN);
+    for (int y = 0; y < m_size.cy; ++y)
+        for (int x = left; x < right; ++x)
+            if (at(x, y) != background)
+                box.SetRect(std::min<int>(box.left, x), std::min<int>(box.top, y),
+                            std::max<int>(box.right, x + 1), std::max<int>(box.bottom, y + 1));
+    return box;
+}
+
+} // namespace orv::test

@@ -1,0 +1,59 @@
+#pragma once
+
+// A dialog with combos to attach to, which keeps what it is told.
+
+#include <orvfc/ORVFC.h>
+
+#include "support/input.h"
+
+#include <string>
+#include <vector>
+
+#define IDD_PICKERS 101
+#define IDC_COMBO 1000 // owner-drawn, with strings
+#define IDC_NO_STRINGS 1001
+#define IDC_OTHER 1002  // another focus
+#define IDC_BUTTON 1003 // owner-drawn
+#define IDC_BUDDY 1004
+
+namespace orv::test {
+
+// Notes registered messages and the notifications of its controls as "name id" lines, in order.
+class CPickerDlg : public CDialog {
+public:
+    std::vector<std::string> told;
+
+    // Creates and shows it, and waits until it has the keyboard.
+    bool open();
+    std::string toldText() const;
+    // Lets what was posted arrive.
+    void settle();
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnOK() override {}
+    void OnCancel() override {}
+};
+
+// Waits for it and lets its key messages be processed.
+bool focusOn(CWnd& window);
+
+// A row drawn into memory.
+class Picture {
+public:
+    Picture(int width, int height);
+    ~Picture();
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+    CDC dc;
+    COLORREF at(int x, int y) const { return dc.GetPixel(x, y); }
+    // Bounding box of the pixels that differ from the colour in the columns from left on.
+    CRect inked(COLORREF background, int left, int right) const;
+
+private:
+    CBitmap m_bitmap;
+    HGDIOBJ m_old;
+    CSize m_size;
+};
+
+} // namespace orv::test
