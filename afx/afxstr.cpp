@@ -46,8 +46,11 @@ void CStringA::AddRef() const {
 }
 
 void CStringA::Release() {
-    if (m_pszData != Nil() &&
-        std::atomic_ref<LONG>(Header()->nRefs).fetch_sub(1, std::memory_order_acq_rel) == 1)
+    if (m_pszData == Nil())
+        return;
+    std::atomic_ref<LONG> refs(Header()->nRefs);
+    // A single owner needs no locked subtraction: nobody else can come by the block meanwhile.
+    if (refs.load(std::memory_order_acquire) == 1 || refs.fetch_sub(1, std::memory_order_acq_rel) == 1)
         OrvFree(Header());
     m_pszData = Nil();
 }
@@ -113,6 +116,10 @@ CStringA::CStringA(const CStringA& strSrc) : m_pszData(strSrc.m_pszData) {
     AddRef();
 }
 
+CStringA::CStringA(CStringA&& strSrc) noexcept : m_pszData(strSrc.m_pszData) {
+    strSrc.m_pszData = Nil();
+}
+
 CStringA::CStringA(char ch, int nRepeat) : CStringA() {
     if (nRepeat > 0) {
         memset(Own(nRepeat), ch, nRepeat);
@@ -159,6 +166,13 @@ CStringA& CStringA::operator=(const CStringA& strSrc) {
     strSrc.AddRef();
     LPSTR psz = strSrc.m_pszData;
     Release();
+    m_pszData = psz;
+    return *this;
+}
+
+CStringA& CStringA::operator=(CStringA&& strSrc) noexcept {
+    LPSTR psz = strSrc.m_pszData;
+    strSrc.m_pszData = m_pszData;
     m_pszData = psz;
     return *this;
 }

@@ -37,6 +37,7 @@ class ORVAFX_API CStringA {
 public:
     CStringA();
     CStringA(const CStringA& strSrc);
+    CStringA(CStringA&& strSrc) noexcept; // strSrc is empty then
     CStringA(char ch, int nRepeat = 1);
     CStringA(LPCSTR pszSrc);
     CStringA(const unsigned char* pszSrc);
@@ -54,6 +55,7 @@ public:
     void SetAt(int iChar, char ch);
 
     CStringA& operator=(const CStringA& strSrc);
+    CStringA& operator=(CStringA&& strSrc) noexcept; // strSrc holds the old text or none
     CStringA& operator=(LPCSTR pszSrc);
     CStringA& operator=(const unsigned char* pszSrc);
     CStringA& operator=(char ch);

@@ -112,8 +112,10 @@ CArchive& operator>>(CArchive& ar, CString& str) {
     const StringLength length = readLength(ar);
     if (length.nUnits > INT_MAX)
         AfxThrowArchiveException(CArchiveException::endOfFile, ar.m_strFileName);
-    const CString bytes = readBytes(ar, length.nUnits * length.nUnitBytes);
-    str = length.nUnitBytes == 2 ? toAnsi(bytes) : bytes;
+    CString bytes = readBytes(ar, length.nUnits * length.nUnitBytes);
+    if (length.nUnitBytes == 2)
+        bytes = toAnsi(bytes);
+    str = static_cast<CString&&>(bytes);
     return ar;
 }
 

@@ -94,9 +94,8 @@ void CStringList::Serialize(CArchive& ar) {
     const INT_PTR nBefore = m_nCount;
     try {
         for (DWORD_PTR nLeft = ar.ReadCount(); nLeft > 0; nLeft--) {
-            CString str;
-            ar >> str;
-            AddTail(str);
+            AddTail(CString());
+            ar >> GetTail();
         }
     } catch (...) {
         while (m_nCount > nBefore)

@@ -29,7 +29,8 @@ public:
     void Close();
 
     // Opens the key below m_hKey. It then takes the place of m_hKey, whose handle is not closed: a host that
-    // needs it keeps it. The same goes for CreateKey and Open.
+    // needs it keeps it. A failure leaves there what the system does, which is 0. The same goes for CreateKey
+    // and Open.
     BOOL VerifyKey(const char* lpszPath);
     // Whether the value is there. Null or empty: the key's default value.
     BOOL VerifyValue(const char* lpszName);

@@ -9,7 +9,7 @@ namespace orv {
 
 namespace {
 
-constexpr UINT kGrowBytes = 1024;
+constexpr UINT kGrowBytes = 4096;
 constexpr INT_PTR kPointElements = 5;
 
 StreamOutcome outcomeOf(const std::function<void()>& action) {

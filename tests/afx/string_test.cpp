@@ -179,6 +179,20 @@ TEST(String, IsOnePointer) {
     EXPECT_EQ(a.GetString(), b.GetString());
 }
 
+TEST(String, MovesHandTheBlockOver) {
+    CString a = "text", other = "other";
+    const LPCSTR block = a.GetString();
+    CString b = std::move(a);
+    EXPECT_EQ(block, b.GetString());
+    EXPECT_TRUE(a.IsEmpty());
+    other = std::move(b);
+    EXPECT_EQ(block, other.GetString());
+    b = "again";
+    other = std::move(*&other);
+    EXPECT_EQ("text", bytesOf(other));
+    EXPECT_EQ("again", bytesOf(b));
+}
+
 TEST(String, ABadIndexIsHarmless) {
     PassedAssertions assertions;
     CString text = "abc";
