@@ -29,6 +29,17 @@ BOOL wasLoaded(orv::StreamOutcome outcome) {
     return outcome == orv::StreamOutcome::good;
 }
 
+// False when memory is short; the text is then as before.
+bool assign(CString& strText, const char* lpszText) {
+    try {
+        strText = lpszText;
+        return true;
+    } catch (CMemoryException* e) {
+        e->Delete();
+        return false;
+    }
+}
+
 } // namespace
 
 COrvRegStore::COrvRegStore(HKEY hRoot, int bReadOnly) : m_Info(), m_hKey(hRoot), m_bReadOnly(bReadOnly) {}
@@ -58,8 +69,16 @@ BOOL COrvRegStore::OpenBelow(const char* lpszPath) {
 }
 
 BOOL COrvRegStore::OpenKey(const char* lpszPath) {
-    m_strKeyPath = lpszPath;
+    if (!assign(m_strKeyPath, lpszPath))
+        return RecordKey(ERROR_NOT_ENOUGH_MEMORY);
     return OpenBelow(m_strKeyPath);
+}
+
+BOOL COrvRegStore::CreateMissing(const char* lpszPath) {
+    if (m_Info.lResult == ERROR_NOT_ENOUGH_MEMORY) // perhaps for the path
+        return FALSE;
+    // The path was the member's own text, perhaps: it lives on in the member only.
+    return CreateKey(lpszPath != NULL ? m_strKeyPath.GetString() : NULL);
 }
 
 BOOL COrvRegStore::VerifyKey(const char* lpszPath) {
@@ -77,7 +96,8 @@ BOOL COrvRegStore::CreateKey(const char* lpszPath) {
     ASSERT(lpszPath != NULL);
     if (lpszPath == NULL)
         return FALSE;
-    m_strKeyPath = lpszPath;
+    if (!assign(m_strKeyPath, lpszPath))
+        return RecordKey(ERROR_NOT_ENOUGH_MEMORY);
     DWORD dwDisposition = 0;
     return RecordKey(
         ::RegCreateKeyExA(m_hKey, m_strKeyPath, 0, NULL, 0, KEY_ALL_ACCESS, NULL, &m_hKey, &dwDisposition));
@@ -226,8 +246,7 @@ BOOL COrvRegStore::Read(const char* lpszName, CString& strValue) {
     char text[kTextRoom + 1] = {}; // the value may come without its closing zero
     if (!IsOpen(lpszName) || !Query(lpszName, text, kTextRoom))
         return FALSE;
-    strValue = text;
-    return TRUE;
+    return wasLoaded(assign(strValue, text) ? orv::StreamOutcome::good : orv::StreamOutcome::noMemory);
 }
 
 // The whole value, which must be binary, in a new block; null for failure.

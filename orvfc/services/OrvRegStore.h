@@ -107,6 +107,8 @@ protected:
     // Opens a key below m_hKey with the access that m_bReadOnly asks for; m_hKey is then what the system
     // leaves in it.
     BOOL OpenKey(const char* lpszPath);
+    // Creates the key that OpenKey, called just before, did not find.
+    BOOL CreateMissing(const char* lpszPath);
     BOOL MayWrite(const char* lpszName) const;
     // dwRecordType is what m_Info tells.
     BOOL SetValue(const char* lpszName, DWORD dwType, const void* pData, size_t nSize, DWORD dwRecordType);

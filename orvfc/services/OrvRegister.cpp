@@ -16,8 +16,7 @@ BOOL COrvRegister::Open(const char* lpszPath, int bCreate) {
     if (!bCreate)
         return FALSE;
     m_hKey = hPrevious;
-    // The path was the member's own text, perhaps: it lives on in the member only.
-    return CreateKey(lpszPath != NULL ? m_strKeyPath.GetString() : NULL);
+    return CreateMissing(lpszPath);
 }
 
 BOOL COrvRegister::Write(const char* lpszName, const char* lpszText) {

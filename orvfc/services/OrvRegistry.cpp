@@ -10,8 +10,7 @@ COrvRegistry::COrvRegistry(int, int bReadOnly) : COrvRegStore(HKEY_LOCAL_MACHINE
 BOOL COrvRegistry::Open(const char* lpszPath, int bCreate) {
     if (OpenKey(lpszPath))
         return TRUE;
-    // The path was the member's own text, perhaps: it lives on in the member only.
-    return bCreate && CreateKey(lpszPath != NULL ? m_strKeyPath.GetString() : NULL);
+    return bCreate && CreateMissing(lpszPath);
 }
 
 BOOL COrvRegistry::Write(const char* lpszName, const char* lpszText) {
