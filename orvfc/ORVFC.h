@@ -15,7 +15,15 @@
 #include <orvfc/linestyle/LineTypeSet.h>
 #include <orvfc/linestyle/LineWidthSet.h>
 #include <orvfc/linestyle/OrvGraphic.h>
+#include <orvfc/pickers/AlignCmb.h>
+#include <orvfc/pickers/CharSpaceCmb.h>
 #include <orvfc/pickers/ColorSet.h>
+#include <orvfc/pickers/FontAslope.h>
+#include <orvfc/pickers/FontCombox.h>
+#include <orvfc/pickers/FontShape.h>
+#include <orvfc/pickers/FontShapeButton.h>
+#include <orvfc/pickers/FontSizeCmb.h>
+#include <orvfc/pickers/OrvFontComboBox.h>
 #include <orvfc/pickers/OrvRecordCombo.h>
 #include <orvfc/services/COrvVersion.h>
 #include <orvfc/services/DateFormat.h>

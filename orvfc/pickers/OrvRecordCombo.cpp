@@ -113,6 +113,14 @@ COrvCmbRecord* COrvRecordCombo::GetRecord(int nIndex) const {
     return static_cast<COrvCmbRecord*>(GetItemDataPtr(nIndex));
 }
 
+void COrvRecordCombo::DeleteRecord(const COrvCmbRecord* pRecord) {
+    for (int i = pRecord && m_hWnd ? GetCount() : 0; i-- > 0;)
+        if (GetRecord(i) == pRecord) {
+            DeleteString(static_cast<UINT>(i));
+            return;
+        }
+}
+
 void COrvRecordCombo::SetInit() {
     if (m_hWnd && GetCount() > 0)
         SetCurSel(0);

@@ -64,6 +64,8 @@ protected:
     int InsertRecord(int nIndex, COrvCmbRecord* pRecord);
     // NULL for an index that there is not, and for an item without record.
     COrvCmbRecord* GetRecord(int nIndex) const;
+    // The record's item goes. Null, or a record that no item has: nothing happens.
+    void DeleteRecord(const COrvCmbRecord* pRecord);
     // The first item, from nFirst on, whose record fits; -1 when none does.
     template <class Record, class Fits>
     int FindRecord(Fits fits, int nFirst = 0) const {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <afxwin.h>
+
+namespace orv {
+
+// The description of the font, with what the shape adds to it; an unknown shape adds nothing.
+LOGFONT shaped(LOGFONT lf, UINT nShape);
+
+// The description of the font that a device context has; the interface's font where there is none.
+LOGFONT fontOf(CDC* pDC);
+
+// Does the selected font show this face's name? A symbol face has signs where others have letters; for a face
+// that is not there another stands in.
+bool showsItsName(CDC* pDC, const CString& strFace);
+
+} // namespace orv
