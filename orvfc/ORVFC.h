@@ -7,6 +7,8 @@
 
 #include <orvfc/OrvApi.h>
 #include <orvfc/bitmap/cdib.h>
+#include <orvfc/controls/GfxGroupEdit.h>
+#include <orvfc/controls/GfxOutBarCtrl.h>
 #include <orvfc/geometry/Extend.h>
 #include <orvfc/geometry/FourPointRect.h>
 #include <orvfc/geometry/ScreenUnits.h>
