@@ -76,6 +76,10 @@ void clickAt(int x, int y) {
     send({mouseInput(MOUSEEVENTF_LEFTDOWN, x, y), mouseInput(MOUSEEVENTF_LEFTUP, x, y)});
 }
 
+void rightClickAt(int x, int y) {
+    send({mouseInput(MOUSEEVENTF_RIGHTDOWN, x, y), mouseInput(MOUSEEVENTF_RIGHTUP, x, y)});
+}
+
 void click(HWND window) {
     RECT rect;
     ::GetWindowRect(window, &rect);

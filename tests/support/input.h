@@ -24,6 +24,7 @@ void moveMouse(int x, int y);
 void pressMouse(int x, int y);
 void releaseMouse(int x, int y);
 void clickAt(int x, int y);
+void rightClickAt(int x, int y);
 // Into the middle of the window.
 void click(HWND window);
 

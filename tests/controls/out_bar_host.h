@@ -1,0 +1,72 @@
+#pragma once
+
+// A window with an outlook bar in it, and steps of a user who works with it.
+
+#include <orvfc/ORVFC.h>
+
+#include <gtest/gtest.h>
+
+#include "support/input.h"
+
+#include <functional>
+#include <vector>
+
+class CBarHost : public CWnd {
+public:
+    CGfxOutBarCtrl bar;
+    CEdit other; // another tab stop, above the bar
+    CImageList large, small;
+    int clicks = 0; // click messages
+    int menus = 0;  // context menus
+    CPoint menuAt;
+    std::function<void()> onClick;
+
+    // The bar is 120 by 300; nothing is in it. It has notified this window from the start.
+    bool make(DWORD flags = OUTBAR_DEFAULT_FLAGS & ~OUTBAR_ANIMATE);
+    // Two folders of items (the first one open, with so many) and one with a child window.
+    void fill(int items);
+    CPoint toScreen(CPoint point) const;
+    // The middle of a header, of an item's label, of an arrow, on the screen.
+    CPoint header(int folder) const;
+    CPoint item(int index) const;
+    CPoint middle(const CRect& rect) const { return toScreen(rect.CenterPoint()); }
+    int hit(CPoint screenPoint, int& index) const;
+    CString texts() const; // of the open folder's items, with blanks between
+    // As the screen shows it.
+    COLORREF pixel(int x, int y) const;
+
+protected:
+    afx_msg LRESULT OnClick(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnContextMenu(CWnd*, CPoint point);
+    DECLARE_MESSAGE_MAP()
+};
+
+// Steps of a user: each one's action follows when its condition holds. They are taken by a timer, so that
+// they go on inside loops of the control's own.
+class Steps {
+public:
+    using Condition = std::function<bool()>;
+    using Action = std::function<void()>;
+
+    Steps& when(Condition condition, Action action);
+    Steps& then(Action action); // at once
+    // All of them, and then until the last condition holds. A step that waits half a minute fails, and the
+    // mouse is let go.
+    void run(Condition last);
+
+private:
+    static void CALLBACK onTimer(HWND, UINT, UINT_PTR, DWORD);
+    void take();
+    std::vector<std::pair<Condition, Action>> m_steps;
+    size_t m_next = 0;
+    ULONGLONG m_since = 0;
+    bool m_failed = false;
+};
+
+class OutBar : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+    CBarHost host;
+    CGfxOutBarCtrl& bar = host.bar;
+};

@@ -1,0 +1,367 @@
+// The outlook bar under a user's hands.
+
+#include "out_bar_host.h"
+
+#include <memory>
+
+using namespace orv::test;
+
+namespace {
+
+class OutBarInput : public OutBar {
+protected:
+    // The condition that this many clicks have arrived.
+    Steps::Condition clicked(int times) {
+        return [this, times] { return host.clicks == times; };
+    }
+    Steps::Action press(CPoint at) {
+        return [at] { pressMouse(at.x, at.y); };
+    }
+    Steps::Action move(CPoint at) {
+        return [at] { moveMouse(at.x, at.y); };
+    }
+    Steps::Action release(CPoint at) {
+        return [at] { releaseMouse(at.x, at.y); };
+    }
+    Steps::Action clickOn(CPoint at) {
+        return [at] { clickAt(at.x, at.y); };
+    }
+    Steps::Action key(WORD key) {
+        return [key] { pressKey(key); };
+    }
+    static bool held() { return ::GetCapture() != NULL; }
+    static bool idle() { return ::GetCapture() == NULL; }
+};
+
+TEST_F(OutBarInput, HoverFollowsTheMouseAndLeaves) {
+    host.fill(3);
+    Steps()
+        .then(move(host.item(1)))
+        .when([&] { return bar.m_nLastItemHighlighted == 1; }, move(host.header(1)))
+        .when([&] { return bar.m_nLastFolderHighlighted == 1 && bar.m_nLastItemHighlighted == -1; },
+              move(CPoint(900, 900)))
+        .run([&] { return bar.m_nLastFolderHighlighted == -1; });
+    EXPECT_FALSE(bar.KillTimer(1)) << "the timer rests with the mouse away";
+    // Covered by another window the bar is left too.
+    Steps().then(move(host.item(0))).run([&] { return bar.m_nLastItemHighlighted == 0; });
+    CWnd cover;
+    ASSERT_TRUE(cover.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 100, 100,
+                               400, 400, NULL, NULL));
+    EXPECT_TRUE(waitUntil([&] { return bar.m_nLastItemHighlighted == -1; }));
+    cover.DestroyWindow();
+}
+
+TEST_F(OutBarInput, OneMessageForEachClick) {
+    host.fill(3);
+    host.onClick = [&] { EXPECT_EQ(host.clicks == 1 ? 102u : 100u, bar.GetCurrentItemData()); };
+    Steps().then(clickOn(host.item(2))).when(clicked(1), clickOn(host.item(0))).run(clicked(2));
+    EXPECT_EQ(0, bar.m_nSelItem);
+    EXPECT_EQ(bar.m_hWnd, ::GetFocus());
+    // A press that is let go elsewhere, or cancelled, is none.
+    const int moved = ::GetSystemMetrics(SM_CXDRAG);
+    bar.ModifyFlag(OUTBAR_DRAG_ITEMS, 0);
+    Steps()
+        .then(press(host.item(1)))
+        .when([&] { return held() && bar.m_nLastItemHighlighted == 1; },
+              move(host.item(2) + CPoint(moved, 0)))
+        .when([&] { return bar.m_nLastItemHighlighted == -1; }, release(host.item(2)))
+        .when(idle, press(host.item(1)))
+        .when(held, key(VK_ESCAPE))
+        .when(idle, release(host.item(1)))
+        .run([] { return ::GetAsyncKeyState(VK_LBUTTON) >= 0; });
+    EXPECT_EQ(2, host.clicks);
+    EXPECT_EQ(0, bar.m_nSelItem);
+    EXPECT_STREQ("0 1 2", host.texts());
+}
+
+TEST_F(OutBarInput, HeadersOpen) {
+    host.fill(3);
+    Steps().then(clickOn(host.header(1))).run([&] { return bar.GetSelFolder() == 1; });
+    EXPECT_EQ(-1, bar.m_nSelItem);
+    EXPECT_EQ(0, host.clicks);
+    bar.ModifyFlag(0, OUTBAR_ANIMATE);
+    Steps().then(clickOn(host.header(0))).run([&] { return bar.GetSelFolder() == 0; });
+    EXPECT_STREQ("0 1 2", host.texts());
+}
+
+TEST_F(OutBarInput, ArrowsScrollOnceAndAgainWhileHeld) {
+    host.fill(20);
+    EXPECT_FALSE(bar.m_bUpArrow);
+    EXPECT_TRUE(bar.m_bDownArrow);
+    const CPoint down = host.middle(bar.m_rcDownArrow);
+    Steps()
+        .then(press(down))
+        .when([&] { return bar.m_nFirstItem == 1 && bar.m_bDownPressed && bar.m_bUpArrow; }, release(down))
+        .run([&] { return idle() && !bar.m_bDownPressed; });
+    EXPECT_EQ(1, bar.m_nFirstItem);
+    // Held it goes on; beside the arrow it rests; at the end the arrow goes.
+    int rested = -1;
+    Steps()
+        .then(press(down))
+        .when([&] { return bar.m_nFirstItem >= 4; }, move(down - CPoint(60, 0)))
+        .when([&] { return !bar.m_bDownPressed; }, [&] { rested = bar.m_nFirstItem; })
+        .when([&] { return bar.m_nFirstItem == rested; }, move(down))
+        .when([&] { return !bar.m_bDownArrow; }, release(down))
+        .run(idle);
+    int first, last;
+    bar.GetVisibleRange(0, first, last);
+    EXPECT_EQ(19, last);
+    const CPoint up = host.middle(bar.m_rcUpArrow);
+    Steps().then(press(up)).when([&] { return bar.m_nFirstItem == 0; }, release(up)).run(idle);
+    EXPECT_FALSE(bar.m_bUpArrow);
+}
+
+TEST_F(OutBarInput, TheWheelScrollsByNotches) {
+    host.fill(20);
+    for (short part : {-40, -40, -40, -240})
+        bar.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, part), 0);
+    EXPECT_EQ(3, bar.m_nFirstItem);
+    bar.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -60), 0);
+    bar.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 60), 0);
+    EXPECT_EQ(3, bar.m_nFirstItem) << "half a notch forth and back";
+    bar.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 32760), 0);
+    EXPECT_EQ(0, bar.m_nFirstItem);
+}
+
+TEST_F(OutBarInput, DragsWithinTheFolder) {
+    host.fill(3);
+    bar.m_nSelItem = 0;
+    const CPoint below = host.item(2) + CPoint(0, 10), above = host.item(0) - CPoint(0, 40);
+    Steps()
+        .then(press(host.item(0)))
+        .when(held, move(below))
+        .when([&] { return bar.m_nLastDragItemDraw == 3; },
+              [&] {
+                  EXPECT_EQ(2, bar.m_nLastDragItemDrawType);
+                  EXPECT_EQ(bar.m_hDragCursor, ::GetCursor());
+                  CRect mark;
+                  EXPECT_TRUE(bar.GetDragItemRect(3, mark));
+                  bar.UpdateWindow();
+                  EXPECT_EQ(bar.m_crWindow, host.pixel(mark.CenterPoint().x, mark.CenterPoint().y));
+              })
+        .then(release(below))
+        .run(idle);
+    EXPECT_STREQ("1 2 0", host.texts());
+    EXPECT_EQ(2, bar.m_nSelItem) << "still the same item";
+    EXPECT_EQ(-1, bar.m_nLastDragItemDraw);
+    Steps()
+        .then(press(host.item(2)))
+        .when(held, move(above))
+        .when([&] { return bar.m_nLastDragItemDrawType == 0; }, release(above))
+        .run(idle);
+    EXPECT_STREQ("0 1 2", host.texts());
+    EXPECT_EQ(0, host.clicks);
+}
+
+TEST_F(OutBarInput, DragsIntoAnotherFolderWithScrolling) {
+    host.fill(20);
+    for (int i = 0; i < 20; ++i)
+        bar.InsertItem(1, -1, "z", 0, 300);
+    CRect inside;
+    bar.GetInsideRect(inside);
+    // Over the other header until it opens, at the lower edge until it scrolls, then between two items.
+    const CPoint header = host.header(1);
+    Steps()
+        .then(press(host.item(1)))
+        .when(held, move(header))
+        .when([&] { return bar.GetSelFolder() == 1; },
+              [&] {
+                  bar.GetInsideRect(inside);
+                  const CPoint edge = host.toScreen(CPoint(inside.CenterPoint().x, inside.bottom - 3));
+                  moveMouse(edge.x, edge.y);
+              })
+        .when([&] { return bar.m_nFirstItem == 3; },
+              [&] {
+                  const CPoint place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
+                  moveMouse(place.x, place.y);
+              })
+        .when([&] { return bar.m_nLastDragItemDraw == 4; },
+              [&] {
+                  const CPoint place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
+                  releaseMouse(place.x, place.y);
+              })
+        .run(idle);
+    EXPECT_EQ(23, bar.GetItemCount());
+    EXPECT_STREQ("1", bar.GetItemText(4));
+    EXPECT_EQ(101u, bar.GetItemData(4));
+    // On a header: behind the last one.
+    Steps()
+        .then(press(host.item(4)))
+        .when(held, move(host.header(0)))
+        .when([&] { return bar.m_nLastFolderHighlighted == 0; }, release(host.header(0)))
+        .run(idle);
+    EXPECT_EQ(22, bar.GetItemCount());
+    bar.SetSelFolder(0);
+    EXPECT_EQ(20, bar.GetItemCount());
+    EXPECT_STREQ("1", bar.GetItemText(19));
+}
+
+TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
+    host.fill(3);
+    CEdit child;
+    ASSERT_TRUE(child.Create(WS_CHILD, CRect(0, 0, 1, 1), &bar, 9));
+    bar.AddFolderBar("窗", &child);
+    const CPoint below = host.item(2) + CPoint(0, 10), outside = host.toScreen(CPoint(200, 150));
+    const struct {
+        const char* name;
+        CPoint to;
+        Steps::Action end;
+    } rows[] = {{"Esc", below, key(VK_ESCAPE)},
+                {"out of the bar", outside, release(outside)},
+                {"a folder without items", host.header(2), release(host.header(2))},
+                {"the capture is taken away", below, [] { ::ReleaseCapture(); }},
+                {"a row comes", below, [&] { bar.RemoveItem(bar.InsertItem(0, -1, "neu")); }},
+                {"another folder goes", below, [&] { bar.RemoveFolder(bar.AddFolder("neu")); }}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Steps()
+            .then(press(host.item(0)))
+            .when(held, move(row.to))
+            .when([&] { return ::GetCursor() == bar.m_hNoDragCursor || ::GetCursor() == bar.m_hDragCursor; },
+                  row.end)
+            .when(idle, release(outside))
+            .run([&] { return bar.m_nLastDragItemDraw == -1; });
+        EXPECT_STREQ("0 1 2", host.texts());
+        EXPECT_EQ(0, host.clicks);
+    }
+    // The folder that the item comes from.
+    Steps()
+        .then(press(host.item(0)))
+        .when(held, move(below))
+        .when([&] { return bar.m_nLastDragItemDraw == 3; }, [&] { bar.RemoveFolder(0); })
+        .when(idle, release(below))
+        .run(idle);
+    EXPECT_STREQ("x y", host.texts());
+    bar.AssertValid();
+}
+
+// Handlers of the host that end the window, the object or the program in the midst of a press.
+TEST(OutBarEnd, TheHostEndsItInMidPress) {
+    for (int way = 0; way < 3; ++way) {
+        auto owner = std::make_unique<CBarHost>();
+        ASSERT_TRUE(owner->make());
+        owner->fill(3);
+        owner->ShowWindow(SW_SHOW);
+        ASSERT_TRUE(waitUntil([&] { return ::GetForegroundWindow() == owner->m_hWnd; }));
+        const CPoint at = owner->item(1);
+        const auto gone = [&] { return !owner || !owner->bar.m_hWnd || ::GetCapture() == NULL; };
+        Steps steps;
+        if (way == 0) {
+            owner->onClick = [&] { owner->bar.DestroyWindow(); };
+            steps.then([&] { clickAt(at.x, at.y); });
+            steps.run([&] { return owner->clicks == 1; });
+        } else {
+            steps.then([&] { pressMouse(at.x, at.y); })
+                .when([] { return ::GetCapture() != NULL; },
+                      [&] {
+                          if (way == 1)
+                              owner.reset();
+                          else
+                              ::PostQuitMessage(7);
+                      })
+                .run(gone);
+            releaseMouse(at.x, at.y);
+        }
+        if (way == 2) {
+            MSG msg;
+            EXPECT_TRUE(::PeekMessageW(&msg, NULL, WM_QUIT, WM_QUIT, PM_REMOVE))
+                << "kept for the loop outside";
+            EXPECT_EQ(7u, msg.wParam);
+        }
+        owner.reset();
+    }
+}
+
+TEST_F(OutBarInput, TheKeyboardWalksOpensRenamesAndRemoves) {
+    host.fill(20);
+    bar.SetFocus();
+    ASSERT_TRUE(waitUntil([&] { return ::GetFocus() == bar.m_hWnd; }));
+    // Down to the first item, click it; on to the last one, which scrolls into view.
+    pressKey(VK_DOWN);
+    pressKey(VK_RETURN);
+    ASSERT_TRUE(waitUntil(clicked(1)));
+    EXPECT_EQ(100u, bar.GetCurrentItemData());
+    pressKey(VK_END);
+    pressKey(VK_UP);
+    pressKey(VK_RETURN);
+    ASSERT_TRUE(waitUntil(clicked(2)));
+    EXPECT_EQ(119u, bar.GetCurrentItemData());
+    int first, last;
+    bar.GetVisibleRange(0, first, last);
+    EXPECT_EQ(19, last);
+    pressKey(VK_DELETE);
+    ASSERT_TRUE(waitUntil([&] { return bar.GetItemCount() == 19; }));
+    pressKey(VK_PRIOR);
+    pressKey(VK_RETURN);
+    ASSERT_TRUE(waitUntil(clicked(3)));
+    EXPECT_EQ(118u - bar.GetCountPerPage(), bar.GetCurrentItemData());
+    // The other folder's header, its name, and away with it.
+    pressKey(VK_END);
+    pressKey(VK_RETURN);
+    ASSERT_TRUE(waitUntil([&] { return bar.GetSelFolder() == 1; }));
+    pressKey(VK_F2);
+    ASSERT_TRUE(waitUntil([&] { return ::GetParent(::GetFocus()) == bar.m_hWnd; }));
+    typeText(L"丙\r");
+    ASSERT_TRUE(waitUntil([&] { return bar.GetFolderName(1) == "丙" && ::GetFocus() == bar.m_hWnd; }));
+    pressKey(VK_DELETE);
+    ASSERT_TRUE(waitUntil([&] { return bar.GetFolderCount() == 1; }));
+    EXPECT_EQ(0, bar.GetSelFolder());
+    pressKey(VK_HOME);
+    pressKey(VK_INSERT);
+    ASSERT_TRUE(waitUntil([&] { return ::GetParent(::GetFocus()) == bar.m_hWnd; }));
+    typeText(L"新\r");
+    ASSERT_TRUE(waitUntil([&] { return bar.GetItemText(0) == "新"; }));
+    pressKey(VK_CONTROL, VK_INSERT);
+    ASSERT_TRUE(waitUntil([&] { return bar.GetFolderCount() == 2; }));
+    // What the flags do not allow does not happen.
+    bar.SetFocus();
+    bar.ModifyFlag(OUTBAR_DEFAULT_FLAGS, 0);
+    for (WORD key : {VK_HOME, VK_F2, VK_DELETE, VK_INSERT, VK_DOWN, VK_F2, VK_DELETE, VK_RETURN})
+        pressKey(key);
+    ASSERT_TRUE(waitUntil(clicked(4)));
+    EXPECT_EQ(2, bar.GetFolderCount());
+    EXPECT_EQ(20, bar.GetItemCount());
+    EXPECT_EQ(bar.m_hWnd, ::GetFocus());
+}
+
+TEST_F(OutBarInput, TabReachesItAndEnterStays) {
+    host.fill(3);
+    host.other.SetFocus();
+    MSG tab = {host.other.m_hWnd, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    host.IsDialogMessage(&tab);
+    EXPECT_EQ(bar.m_hWnd, ::GetFocus());
+    EXPECT_TRUE(bar.SendMessage(WM_GETDLGCODE) & DLGC_WANTARROWS);
+    MSG enter = {bar.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_TRUE(bar.SendMessage(WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) &
+                DLGC_WANTMESSAGE);
+    EXPECT_FALSE(bar.SendMessage(WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&tab)) & DLGC_WANTMESSAGE);
+}
+
+TEST_F(OutBarInput, MenusAreReported) {
+    host.fill(20);
+    const CPoint at = host.item(1);
+    rightClickAt(at.x, at.y);
+    ASSERT_TRUE(waitUntil([&] { return host.menus == 1; }));
+    EXPECT_EQ(at, host.menuAt);
+    EXPECT_EQ(101u, bar.GetCurrentItemData());
+    EXPECT_EQ(0, host.clicks);
+    bar.SetFocus();
+    for (bool small : {false, true}) {
+        bar.SetSmallIconView(small);
+        const int before = host.menus;
+        pressKey(VK_END);
+        pressKey(VK_UP);
+        pressKey(VK_APPS);
+        ASSERT_TRUE(waitUntil([&] { return host.menus == before + 1; }));
+        int index;
+        EXPECT_EQ(1, host.hit(host.menuAt, index));
+        EXPECT_EQ(19, index);
+        pressKey(VK_DOWN);
+        pressKey(VK_SHIFT, VK_F10);
+        ASSERT_TRUE(waitUntil([&] { return host.menus == before + 2; }));
+        EXPECT_EQ(0, host.hit(host.menuAt, index));
+        EXPECT_EQ(1, index);
+    }
+}
+
+} // namespace
