@@ -15,7 +15,9 @@ void copyFaceName(char (&field)[LF_FACESIZE], std::string_view name) {
 }
 
 void endFaceName(char (&field)[LF_FACESIZE]) {
-    copyFaceName(field, std::string_view(field, LF_FACESIZE));
+    const std::string_view whole(field, LF_FACESIZE);
+    if (whole.find('\0') == whole.npos)
+        copyFaceName(field, whole);
 }
 
 } // namespace orv

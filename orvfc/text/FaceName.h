@@ -12,7 +12,7 @@ namespace orv {
 // is zero.
 void copyFaceName(char (&field)[LF_FACESIZE], std::string_view name);
 
-// A field that came from elsewhere may lack its zero.
+// A field that came from elsewhere may lack its zero. One that is whole keeps all its bytes.
 void endFaceName(char (&field)[LF_FACESIZE]);
 
 } // namespace orv

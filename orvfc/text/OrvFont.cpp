@@ -42,6 +42,21 @@ BOOL createFont(CFont& font, const LOGFONT& description) {
     return font.CreateFontIndirect(&lf);
 }
 
+// A device context of the whole screen. A system that has none to give does not throw here: measures are then
+// empty, and the usual resolution holds.
+class ScreenDC : public CDC {
+public:
+    ScreenDC() { Attach(::GetDC(NULL)); }
+    ~ScreenDC() override {
+        if (m_hDC != NULL)
+            ::ReleaseDC(NULL, Detach());
+    }
+    int dpi() const {
+        const int found = m_hDC != NULL ? GetDeviceCaps(LOGPIXELSY) : 0;
+        return found > 0 ? found : 96;
+    }
+};
+
 int saturated(LONGLONG value) {
     return orv::truncToInt(static_cast<double>(value));
 }
@@ -269,7 +284,9 @@ void COrvFont::ReCreateFont() {
 // --- on the screen
 
 CSize COrvFont::GetTextRect(CString strText) {
-    CClientDC dc(NULL);
+    ScreenDC dc;
+    if (dc.m_hDC == NULL)
+        return CSize(0, 0);
     const int nSaved = dc.SaveDC();
     dc.SetTextJustification(0, 0);
     dc.SetTextCharacterExtra(0);
@@ -304,19 +321,21 @@ int COrvFont::CreateFontFromDialog() {
 }
 
 int COrvFont::ConvertSizeFromHeight(int nHeight) {
-    CClientDC dc(NULL);
+    ScreenDC dc;
     CPoint point(nHeight < 0 ? nHeight : -nHeight, 0);
-    dc.LPtoDP(&point);
-    const LONGLONG size = point.x * 72LL / dc.GetDeviceCaps(LOGPIXELSY);
+    if (dc.m_hDC != NULL)
+        dc.LPtoDP(&point);
+    const LONGLONG size = point.x * 72LL / dc.dpi();
     return saturated(size < 0 ? -size : size);
 }
 
 int COrvFont::ConvertHeightFromSize(int nSize) {
-    CClientDC dc(NULL);
+    ScreenDC dc;
     const LONGLONG points = nSize < 0 ? -LONGLONG(nSize) : nSize;
-    const int height = saturated((points * dc.GetDeviceCaps(LOGPIXELSY) + 36) / 72); // to the nearest
+    const int height = saturated((points * dc.dpi() + 36) / 72); // to the nearest
     CPoint point(nSize < 0 ? height : -height, 0);
-    dc.DPtoLP(&point);
+    if (dc.m_hDC != NULL)
+        dc.DPtoLP(&point);
     return point.x;
 }
 
@@ -342,7 +361,8 @@ struct COrvFont::Stored {
 
 void COrvFont::Serialize(CArchive& ar) {
     CObject::Serialize(ar);
-    m_font.GetLogFont(&m_lf);
+    if (ar.IsStoring() && m_font.GetLogFont(&m_lf)) // loading reads every field of it
+        orv::endFaceName(m_lf.lfFaceName);
     Stored now = {m_nVersion, m_lf, m_crFont, m_dZoomModu, m_nFontSize, m_dNominalSize, m_lf.lfFaceName};
     LOGFONT& lf = now.lf;
     orv::archiveFields(ar, now.nVersion, lf.lfCharSet, lf.lfClipPrecision, lf.lfEscapement, lf.lfHeight,

@@ -72,7 +72,7 @@ public:
     int Set(LOGFONT* pLogFont) const; // FALSE for null (asserted)
     void ReCreateFont();
 
-    // The extent of one line of text on the screen, in pixels, tabs not expanded.
+    // The extent of one line of text on the screen, in pixels, tabs not expanded. (0, 0) without a screen.
     CSize GetTextRect(CString strText);
     int GetTextHeight();
     // "宋体 15   ": the face, the points of the height, "粗体" or a blank, each with a blank behind it.

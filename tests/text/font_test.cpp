@@ -359,10 +359,41 @@ TEST(Font, ABrokenStreamLeavesTheFont) {
     const std::vector<BYTE> good = filledBytes();
     for (size_t cut = 0; cut < good.size(); ++cut) {
         COrvFont font;
+        font.SetFontBold(1, 0);
         EXPECT_FALSE(load(font, {good.begin(), good.begin() + static_cast<ptrdiff_t>(cut)})) << cut;
         EXPECT_EQ(CString("宋体"), font.GetFontName());
-        EXPECT_TRUE(inStep(font));
+        EXPECT_EQ(1, font.GetFontBold()) << "not yet made, and still wanted";
     }
+}
+
+TEST(Font, IsStoredAsAnObjectOfSchema1) {
+    COrvFont font;
+    fill(font);
+    CMemFile file;
+    CArchive out(&file, CArchive::store);
+    out << &font;
+    out.Close();
+    file.SeekToBegin();
+    BYTE head[4];
+    file.Read(head, sizeof head);
+    EXPECT_EQ(1, head[2] | head[3] << 8);
+    file.SeekToBegin();
+    CArchive in(&file, CArchive::load);
+    COrvFont* read = NULL;
+    in >> read;
+    const std::unique_ptr<COrvFont> loaded(read);
+    loaded->ReCreateFont();
+    EXPECT_EQ(filledBytes(), stored(*loaded));
+}
+
+TEST(Font, AWholeDescriptionKeepsAllItsBytes) {
+    LOGFONT lf;
+    memset(&lf, 0x55, sizeof lf);
+    lf.lfFaceName[3] = '\0';
+    COrvFont font;
+    font.SetLogFont(lf, 0);
+    const LOGFONT kept = described(font);
+    EXPECT_EQ(0, memcmp(&lf, &kept, sizeof lf));
 }
 
 TEST(Font, AnyBytesMakeASafeFont) {
