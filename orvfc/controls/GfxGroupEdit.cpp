@@ -17,7 +17,7 @@ CGfxGroupEdit::~CGfxGroupEdit() = default;
 
 // The one end: whoever comes first wins.
 bool CGfxGroupEdit::TellParent(bool bTake) {
-    if (m_bEnding)
+    if (m_bEnding || !m_hWnd)
         return false;
     m_bEnding = true;
     ::SendMessageA(::GetParent(m_hWnd), WM_GFX_END_LABEL_EDIT, bTake ? 0 : 1,
@@ -30,6 +30,13 @@ void CGfxGroupEdit::EndEdit(bool bTake) {
     // The parent may have destroyed the window, and this object with it.
     if (TellParent(bTake) && ::IsWindow(hWnd))
         ::DestroyWindow(hWnd);
+}
+
+// The system takes the focus from a window that it destroys: that must not be the end that counts.
+BOOL CGfxGroupEdit::DestroyWindow() {
+    const HWND hWnd = m_hWnd;
+    TellParent(false);
+    return ::IsWindow(hWnd) && CEdit::DestroyWindow();
 }
 
 BOOL CGfxGroupEdit::PreTranslateMessage(MSG* pMsg) {

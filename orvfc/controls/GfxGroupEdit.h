@@ -6,7 +6,7 @@
 #include <orvfc/OrvApi.h>
 
 // An edit field that ends by itself: with Enter or by losing the focus its text is to be taken, with Esc or
-// when it is destroyed it is not. However many of these come together, its parent is told once, by
+// DestroyWindow it is not. However many of these come together, its parent is told once, by
 // SendMessage: WM_GFX_END_LABEL_EDIT with wParam 0 to take the text (anything else: not) and the field's
 // window in lParam. Then the window is destroyed and the object deletes itself: make it with new.
 class ORVFC_API CGfxGroupEdit : public CEdit {
@@ -24,6 +24,7 @@ public:
     void EndEdit(bool bTake);
     bool IsEnding() const { return m_bEnding; }
 
+    BOOL DestroyWindow() override;
     // Looks at the message's wParam alone, whatever the message is (callers rely on it): 13 ends as Enter
     // does and 27 as Esc does; the message is swallowed.
     BOOL PreTranslateMessage(MSG* pMsg) override;

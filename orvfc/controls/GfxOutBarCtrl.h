@@ -271,6 +271,7 @@ private:
 
     void PaintBackground(CDC& dc, const CRect& rcInside) const;
     void PaintItem(CDC& dc, int nItem, const CRect& rcIcon, const CRect& rcLabel) const;
+    void PaintFrame(CDC& dc, int nItem, const CRect& rcAround) const;
     bool IsCurrent(int nFolder, int nItem) const;
 
     bool PressArrow(const CPoint& point);

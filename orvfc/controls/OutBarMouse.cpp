@@ -75,8 +75,9 @@ void CGfxOutBarCtrl::OnTimer(UINT_PTR nIDEvent) {
 }
 
 BOOL CGfxOutBarCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
-    if (nHitTest == HTCLIENT && pWnd->GetSafeHwnd() == m_hWnd) {
-        CPoint point(static_cast<LPARAM>(::GetMessagePos()));
+    CPoint point;
+    // The message comes before its mouse message is taken: GetMessagePos would still tell the one before.
+    if (nHitTest == HTCLIENT && pWnd->GetSafeHwnd() == m_hWnd && ::GetCursorPos(&point)) {
         ScreenToClient(&point);
         int nIndex;
         const int nHit = HitTestEx(point, nIndex);

@@ -74,12 +74,14 @@ void CGfxOutBarCtrl::PaintBackground(CDC& dc, const CRect& rcInside) const {
         dc.FillSolidRect(rcInside, m_crBackground);
         return;
     }
-    CRect rcClip;
+    CRect rcClient, rcShade, rcClip;
+    GetClientRect(rcClient);
     dc.GetClipBox(rcClip);
-    const int nHeight = std::max(1, rcInside.Height() - 1);
-    for (int y = std::max(rcClip.top, rcInside.top); y < std::min(rcClip.bottom, rcInside.bottom); ++y)
-        dc.FillSolidRect(rcInside.left, y, rcInside.Width(), 1,
-                         mixed(m_crBackground, m_crBackground2, y - rcInside.top, nHeight));
+    rcShade.IntersectRect(rcInside, rcClient);
+    const int nHeight = std::max(1, rcShade.Height() - 1);
+    for (int y = std::max(rcClip.top, rcShade.top); y < std::min(rcClip.bottom, rcShade.bottom); ++y)
+        dc.FillSolidRect(rcShade.left, y, rcShade.Width(), 1,
+                         mixed(m_crBackground, m_crBackground2, y - rcShade.top, nHeight));
 }
 
 // A button: light edges at the left and top, shadows at the right and bottom.
@@ -117,11 +119,11 @@ void CGfxOutBarCtrl::PaintItems(CDC& dc) const {
     do {
         if (row.top >= rcInside.bottom)
             break;
-        const CRect rcItem = layout.itemRect(row);
-        // What is drawn of a small item stands below its rectangle, by the top margin.
-        if (rcItem.bottom + m_ySmallIconSpacing + m_yTopMargin > rcClip.top &&
-            row.top - frameGap < rcClip.bottom)
-            PaintItem(dc, row.item, layout.iconRect(row), layout.labelRect(row));
+        CRect rcDrawn, rcLabel(layout.labelRect(row)), rcIcon(layout.iconRect(row));
+        rcDrawn.UnionRect(rcLabel, rcIcon);
+        if (LONGLONG(rcDrawn.bottom) + 2 * frameGap > rcClip.top &&
+            LONGLONG(rcDrawn.top) - frameGap < rcClip.bottom)
+            PaintItem(dc, row.item, rcIcon, rcLabel);
     } while (layout.nextRow(row));
     CRect rcMark;
     if (m_nLastDragItemDraw >= 0 && GetDragItemRect(m_nLastDragItemDraw, rcMark))
@@ -138,17 +140,7 @@ void CGfxOutBarCtrl::PaintItem(CDC& dc, int nItem, const CRect& rcIcon, const CR
         OpenFolder()->images[bSmall]->Draw(&dc, item.image, place, ILD_TRANSPARENT);
         rcFrame = CRect(place, IconSize(*OpenFolder(), item));
     }
-    CRect rcInside;
-    GetInsideRect(rcInside);
-    rcFrame.InflateRect(frameGap, frameGap);
-    rcFrame.IntersectRect(rcFrame, rcInside);
-    if (nItem == m_nItemPressed)
-        dc.Draw3dRect(rcFrame, m_crDkShadow, m_crHilight);
-    else if (nItem == m_nLastItemHighlighted && (m_dwFlags & OUTBAR_HILIGHT_ITEM))
-        dc.Draw3dRect(rcFrame, m_crHilight, m_crShadow);
-    else if (nItem == m_nSelItem)
-        dc.Draw3dRect(rcFrame, m_crShadow, m_crHilight);
-
+    PaintFrame(dc, nItem, rcFrame);
     dc.SetTextColor(m_crWindow);
     CRect rcText(rcLabel);
     const UINT nFormat = bSmall ? DT_LEFT | DT_SINGLELINE | DT_END_ELLIPSIS : DT_CENTER | DT_WORDBREAK;
@@ -160,6 +152,22 @@ void CGfxOutBarCtrl::PaintItem(CDC& dc, int nItem, const CRect& rcIcon, const CR
         dc.SetBkColor(m_crBackground);
         dc.DrawFocusRect(rcFocus);
     }
+}
+
+void CGfxOutBarCtrl::PaintFrame(CDC& dc, int nItem, const CRect& rcAround) const {
+    CRect rcFrame, rcInside;
+    GetInsideRect(rcInside);
+    if (!rcFrame.IntersectRect(rcAround, rcInside))
+        return;
+    rcFrame.InflateRect(frameGap, frameGap);
+    // At the upper edge there is no room above; at the lower one the frame goes on out of sight.
+    rcFrame.IntersectRect(rcFrame, CRect(rcInside.left, rcInside.top, rcInside.right, rcFrame.bottom));
+    if (nItem == m_nItemPressed)
+        dc.Draw3dRect(rcFrame, m_crDkShadow, m_crHilight);
+    else if (nItem == m_nLastItemHighlighted && (m_dwFlags & OUTBAR_HILIGHT_ITEM))
+        dc.Draw3dRect(rcFrame, m_crHilight, m_crShadow);
+    else if (nItem == m_nSelItem)
+        dc.Draw3dRect(rcFrame, m_crShadow, m_crHilight);
 }
 
 void CGfxOutBarCtrl::PaintArrows(CDC& dc) const {
@@ -193,13 +201,15 @@ void CGfxOutBarCtrl::InvalidateItem(int nItem) {
     GetVisibleRange(m_nSelFolder, nFirst, nLast);
     if (!m_hWnd || !IsValidItem(nItem) || nItem < nFirst || nItem > nLast)
         return;
-    CRect rect, rcInside;
-    GetItemRect(m_nSelFolder, nItem, rect);
-    // With the frame, and a small item's margin.
-    rect.InflateRect(0, frameGap + m_yTopMargin + m_ySmallIconSpacing);
+    const orv::OutBarLayout layout = LayoutOf(m_nSelFolder);
+    const orv::OutBarRow row = layout.row(nItem);
+    CRect rect, rcLabel(layout.labelRect(row)), rcIcon(layout.iconRect(row)), rcInside;
     GetInsideRect(rcInside);
-    if (rect.IntersectRect(rect, rcInside))
-        InvalidateRect(rect, FALSE);
+    rect.UnionRect(rcLabel, rcIcon);
+    if (!rect.IntersectRect(rect, rcInside))
+        return;
+    rect.InflateRect(frameGap, 2 * frameGap); // its frame, and the picture below the icon's rectangle
+    InvalidateRect(rect, FALSE);
 }
 
 void CGfxOutBarCtrl::HighlightFolder(int nFolder) {

@@ -39,10 +39,12 @@ bool CGfxOutBarCtrl::StartItemEdit(int item) {
         dc.GetTextMetrics(&metrics);
         dc.SelectObject(pOld);
     }
-    rect.left = IsSmallIconView() ? rect.left - 4 : rcInside.left + 4;
+    const LONG nHeight = metrics.tmHeight + 6;
+    const LONGLONG nLast = std::max<LONGLONG>(rcInside.top, LONGLONG(rcInside.bottom) - nHeight);
+    rect.left = std::clamp<LONG>(IsSmallIconView() ? rect.left : 0, 4, std::max<LONG>(4, rcInside.right / 2));
     rect.right = rcInside.right - 4;
-    rect.top -= 3;
-    rect.bottom = rect.top + metrics.tmHeight + 6;
+    rect.top = static_cast<LONG>(std::clamp<LONGLONG>(rect.top - 3LL, rcInside.top, nLast));
+    rect.bottom = rect.top + nHeight;
     m_nEditFolder = m_nSelFolder;
     m_nEditItem = item;
     return StartEdit(rect, GetItemText(item), IsSmallIconView() ? ES_LEFT : ES_CENTER);

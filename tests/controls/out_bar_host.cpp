@@ -2,6 +2,23 @@
 
 using namespace orv::test;
 
+std::vector<COLORREF> pixelsOf(CDC& dc, CPoint corner, CSize size) {
+    std::vector<COLORREF> pixels(static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy));
+    CDC memory;
+    CBitmap bitmap;
+    memory.CreateCompatibleDC(&dc);
+    bitmap.CreateCompatibleBitmap(&dc, size.cx, size.cy);
+    CBitmap* before = memory.SelectObject(&bitmap);
+    memory.BitBlt(0, 0, size.cx, size.cy, &dc, corner.x, corner.y, SRCCOPY);
+    memory.SelectObject(before);
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    ::GetDIBits(dc.m_hDC, bitmap, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS);
+    for (COLORREF& pixel : pixels)
+        pixel &= 0xFFFFFF; // the fourth byte is nobody's
+    return pixels;
+}
+
 BEGIN_MESSAGE_MAP(CBarHost, CWnd)
 ON_REGISTERED_MESSAGE(WM_GFX_OUTBAR_LBUTTON_DOWN, &CBarHost::OnClick)
 ON_WM_CONTEXTMENU()
@@ -74,10 +91,20 @@ CString CBarHost::texts() const {
     return all;
 }
 
-COLORREF CBarHost::pixel(int x, int y) const {
-    const CPoint point = toScreen(CPoint(x, y));
+std::vector<COLORREF> CBarHost::shown() const {
+    CRect rect;
+    bar.GetClientRect(rect);
+    const CPoint corner = toScreen(CPoint(0, 0));
     CWindowDC screen(NULL);
-    return screen.GetPixel(point.x, point.y);
+    return pixelsOf(screen, corner, rect.Size());
+}
+
+bool CBarHost::shows(int x, int y, COLORREF color) const {
+    return waitUntil([&] {
+        CWindowDC screen(NULL);
+        const CPoint point = toScreen(CPoint(x, y));
+        return screen.GetPixel(point.x, point.y) == color;
+    });
 }
 
 LRESULT CBarHost::OnClick(WPARAM wParam, LPARAM lParam) {

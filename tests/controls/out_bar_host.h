@@ -11,9 +11,24 @@
 #include <functional>
 #include <vector>
 
+// Counts how often a rename is said to end.
+class CCountedBar : public CGfxOutBarCtrl {
+public:
+    int ends = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        ends += message == WM_GFX_END_LABEL_EDIT;
+        return CGfxOutBarCtrl::WindowProc(message, wParam, lParam);
+    }
+};
+
+// Of part of a device context, row by row, as 0x00RRGGBB.
+std::vector<COLORREF> pixelsOf(CDC& dc, CPoint corner, CSize size);
+
 class CBarHost : public CWnd {
 public:
-    CGfxOutBarCtrl bar;
+    CCountedBar bar;
     CEdit other; // another tab stop, above the bar
     CImageList large, small;
     int clicks = 0; // click messages
@@ -32,8 +47,10 @@ public:
     CPoint middle(const CRect& rect) const { return toScreen(rect.CenterPoint()); }
     int hit(CPoint screenPoint, int& index) const;
     CString texts() const; // of the open folder's items, with blanks between
-    // As the screen shows it.
-    COLORREF pixel(int x, int y) const;
+    // What the screen shows of the bar, row by row. It is the window system's to be late with it: wait.
+    std::vector<COLORREF> shown() const;
+    // Waits until it shows the colour there.
+    bool shows(int x, int y, COLORREF color) const;
 
 protected:
     afx_msg LRESULT OnClick(WPARAM wParam, LPARAM lParam);
@@ -68,5 +85,5 @@ protected:
     void SetUp() override;
     void TearDown() override;
     CBarHost host;
-    CGfxOutBarCtrl& bar = host.bar;
+    CCountedBar& bar = host.bar;
 };
