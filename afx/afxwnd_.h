@@ -401,7 +401,8 @@ private:
     explicit CWnd(HWND hWnd) : m_hWnd(hWnd) {}
     void TakeProcedure();
     void ReturnProcedure();
-    BOOL m_bWide = FALSE; // the way m_pfnSuper is to be called
+    BOOL m_bWide = FALSE;    // the way m_pfnSuper is to be called
+    BOOL m_bInChain = FALSE; // the window's messages come through AfxWndProc
 };
 
 // Classes are registered for this program and unregistered when the module that made them is unloaded. The

@@ -3,6 +3,7 @@
 #include "wndcreate.h"
 
 #include "afxdlgs.h"
+#include "dbcs.h"
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CColorDialog, CCommonDialog)
@@ -83,7 +84,9 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     if (lpszDefExt)
         m_ofn.lpstrDefExt = m_strDefExt;
     if (lpszFileName)
-        lstrcpynA(m_szFileName, lpszFileName, MAX_PATH);
+        memcpy(
+            m_szFileName, lpszFileName,
+            static_cast<size_t>(orvafx::wholeCharBytes(lpszFileName, lstrlenA(lpszFileName), MAX_PATH - 1)));
     if (lpszFilter) {
         // The system separates by zeros and ends with two.
         m_strFilter += "|";

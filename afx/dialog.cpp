@@ -167,8 +167,11 @@ INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return dialog->OnInitDialog();
     } catch (...) {
         orvafx::swallowException({hWnd, message, wParam, lParam, 0, {}});
-        // Half a dialog is none.
-        dialog->EndDialog(-1);
+        // Half a dialog is none. A modal one ends when its loop begins.
+        if (OrvWndAccess::isModal(dialog))
+            dialog->EndDialog(-1);
+        else
+            dialog->DestroyWindow();
         return FALSE;
     }
 }

@@ -2,6 +2,8 @@
 
 #include "threadstate.h"
 
+#include "dbcs.h"
+
 #include <float.h>
 #include <limits.h>
 #include <math.h>
@@ -189,9 +191,12 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value) {
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen) {
     HWND control = pDX->PrepareEditCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        ::GetWindowTextA(control, value, nMaxLen);
-    else
+    if (pDX->m_bSaveAndValidate && nMaxLen > 0) {
+        const CString text = textOf(control);
+        const int bytes = orvafx::wholeCharBytes(text, text.GetLength(), nMaxLen - 1);
+        memcpy(value, static_cast<LPCTSTR>(text), static_cast<size_t>(bytes));
+        value[bytes] = '\0';
+    } else if (!pDX->m_bSaveAndValidate)
         setText(control, value);
 }
 

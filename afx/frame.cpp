@@ -150,7 +150,7 @@ BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
 
 void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
     Default();
-    if (bSysMenu)
+    if (bSysMenu || !pPopupMenu)
         return;
     CCmdUI state;
     state.m_pMenu = pPopupMenu;

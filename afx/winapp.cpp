@@ -93,13 +93,15 @@ CWinApp* AFXAPI AfxGetApp() {
     return theApp;
 }
 CWinThread* AFXAPI AfxGetThread() {
-    return theApp;
+    // Other threads have no object of their own.
+    return theApp && theApp->m_nThreadID == ::GetCurrentThreadId() ? theApp : NULL;
 }
 LPCTSTR AFXAPI AfxGetAppName() {
     return theApp ? theApp->m_pszAppName : NULL;
 }
 CWnd* AFXAPI AfxGetMainWnd() {
-    return theApp ? theApp->m_pMainWnd : NULL;
+    CWinThread* thread = AfxGetThread();
+    return thread ? thread->m_pMainWnd : NULL;
 }
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {

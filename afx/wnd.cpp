@@ -1,6 +1,6 @@
 // The members of CWnd that are a few calls into the system.
 
-#include "threadstate.h"
+#include "wndcreate.h"
 
 #include <commctrl.h>
 #include <shellapi.h>
@@ -49,6 +49,10 @@ BOOL CWnd::Attach(HWND hWndNew) {
     Detach();
     m_hWnd = hWndNew;
     threadState().windows.setPermanent(hWndNew, this);
+    if (WNDPROC left = orvafx::takeLeftProcedure(hWndNew, &m_bWide)) {
+        *GetSuperWndProcAddr() = left;
+        m_bInChain = TRUE;
+    }
     return TRUE;
 }
 
@@ -57,6 +61,12 @@ HWND CWnd::Detach() {
     if (handle)
         if (auto* state = orvafx::existingThreadState())
             state->windows.removePermanent(handle, this);
+    WNDPROC* super = GetSuperWndProcAddr();
+    if (handle && m_bInChain && *super) {
+        orvafx::leaveProcedure(handle, *super, m_bWide);
+        *super = NULL;
+    }
+    m_bInChain = FALSE;
     m_hWnd = NULL;
     m_hWndOwner = NULL;
     return handle;

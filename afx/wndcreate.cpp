@@ -83,6 +83,9 @@ void OrvWndAccess::take(CWnd* object, HWND hWnd) {
 }
 
 void CWnd::TakeProcedure() {
+    if (m_bInChain)
+        return;
+    m_bInChain = TRUE;
     m_bWide = orvafx::wantsWideMessages(m_hWnd);
     const auto ours = reinterpret_cast<LONG_PTR>(AfxWndProc);
     const LONG_PTR before = m_bWide ? ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, ours)
@@ -104,6 +107,7 @@ void CWnd::ReturnProcedure() {
         else
             ::SetWindowLongPtrA(m_hWnd, GWLP_WNDPROC, before);
         *super = NULL;
+        m_bInChain = FALSE;
     }
 }
 
@@ -177,14 +181,19 @@ BOOL CWnd::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, 
     }
     if (missed)
         PostNcDestroy();
-    return made != NULL;
+    return ::IsWindow(made);
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
     ASSERT(m_hWnd == NULL);
     if (m_hWnd || !::IsWindow(hWnd) || FromHandlePermanent(hWnd))
         return FALSE;
-    OrvWndAccess::take(this, hWnd);
+    try {
+        OrvWndAccess::take(this, hWnd);
+    } catch (...) {
+        Detach(); // half a subclassing is none
+        throw;
+    }
     return TRUE;
 }
 

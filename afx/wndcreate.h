@@ -8,6 +8,7 @@
 struct OrvWndAccess {
     // Attaches the object and puts its procedure before the window's own.
     static void take(CWnd* object, HWND hWnd);
+    static bool isModal(const CWnd* object) { return (object->m_nFlags & WF_CONTINUEMODAL) != 0; }
     static void postNcDestroy(CWnd* object) { object->PostNcDestroy(); }
     static void endModalLoop(CWnd* object, int result) { object->EndModalLoop(result); }
 };
@@ -54,6 +55,12 @@ private:
     HWND owner_;
     bool disabled_;
 };
+
+// A window may lose its object while our procedure stays in its chain (Detach, somebody subclassing later):
+// what stands behind it is left with the window, and taken again by the next object.
+void leaveProcedure(HWND window, WNDPROC super, BOOL wide);
+// NULL when nothing was left; wide is set only otherwise.
+WNDPROC takeLeftProcedure(HWND window, BOOL* wide = NULL);
 
 bool isModuleOfChain(HINSTANCE module);
 void unregisterClasses(HINSTANCE module); // NULL: all

@@ -24,17 +24,68 @@ END_MESSAGE_MAP()
 
 namespace orvafx {
 
+namespace {
+
+// Names of the window properties that hold a procedure that was left.
+const char wideSuper[] = "OrvAfxWideProcedure";
+const char narrowSuper[] = "OrvAfxProcedure";
+
+LRESULT askThread(CException* e, const MSG& message) {
+    CWinThread* thread = AfxGetThread();
+    if (!thread) {
+        TRACE("%s left the handler of message %x\n", e->GetRuntimeClass()->m_lpszClassName, message.message);
+        return message.message == WM_CREATE ? -1 : 0;
+    }
+    try {
+        return thread->ProcessWndProcException(e, &message);
+    } catch (CException* second) {
+        // A host that throws on: here it ends all the same.
+        TRACE("%s left ProcessWndProcException\n", second->GetRuntimeClass()->m_lpszClassName);
+        if (second != e)
+            second->Delete();
+    } catch (...) {
+        TRACE("an exception left ProcessWndProcException\n");
+    }
+    if (message.message == WM_PAINT)
+        ::ValidateRect(message.hwnd, NULL);
+    return message.message == WM_CREATE ? -1 : 0;
+}
+
+LRESULT callWithoutObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool wide = ::GetPropA(window, wideSuper) != NULL;
+    const auto super = reinterpret_cast<WNDPROC>(
+        reinterpret_cast<LONG_PTR>(::GetPropA(window, wide ? wideSuper : narrowSuper)));
+    if (!super)
+        return ::IsWindowUnicode(window) ? ::DefWindowProcW(window, message, wParam, lParam)
+                                         : ::DefWindowProcA(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY)
+        takeLeftProcedure(window);
+    return wide ? ::CallWindowProcW(super, window, message, wParam, lParam)
+                : ::CallWindowProcA(super, window, message, wParam, lParam);
+}
+
+} // namespace
+
+void leaveProcedure(HWND window, WNDPROC super, BOOL wide) {
+    ::SetPropA(window, wide ? wideSuper : narrowSuper,
+               reinterpret_cast<HANDLE>(reinterpret_cast<LONG_PTR>(super)));
+}
+
+WNDPROC takeLeftProcedure(HWND window, BOOL* wide) {
+    HANDLE found = ::RemovePropA(window, wideSuper);
+    const BOOL isWide = found != NULL;
+    if (!found)
+        found = ::RemovePropA(window, narrowSuper);
+    if (found && wide)
+        *wide = isWide;
+    return reinterpret_cast<WNDPROC>(reinterpret_cast<LONG_PTR>(found));
+}
+
 LRESULT swallowException(const MSG& message) {
     try {
         throw;
     } catch (CException* e) {
-        CWinThread* thread = AfxGetThread();
-        LRESULT result = message.message == WM_CREATE ? -1 : 0;
-        if (thread)
-            result = thread->ProcessWndProcException(e, &message);
-        else
-            TRACE("%s left the handler of message %x\n", e->GetRuntimeClass()->m_lpszClassName,
-                  message.message);
+        const LRESULT result = askThread(e, message);
         e->Delete();
         return result;
     } catch (const std::exception& e) {
@@ -52,8 +103,7 @@ LRESULT swallowException(const MSG& message) {
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     if (CWnd* window = CWnd::FromHandlePermanent(hWnd))
         return AfxCallWndProc(window, hWnd, nMsg, wParam, lParam);
-    return ::IsWindowUnicode(hWnd) ? ::DefWindowProcW(hWnd, nMsg, wParam, lParam)
-                                   : ::DefWindowProcA(hWnd, nMsg, wParam, lParam);
+    return orvafx::callWithoutObject(hWnd, nMsg, wParam, lParam);
 }
 
 LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
@@ -66,6 +116,15 @@ LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, L
     } catch (...) {
         // Nothing may unwind through the system's own frames.
         result = orvafx::swallowException({hWnd, nMsg, wParam, lParam, 0, {}});
+    }
+    // A handler that threw, or forgot its base: the system may give the number to another window, which the
+    // object must not be found under.
+    if (nMsg == WM_NCDESTROY && CWnd::FromHandlePermanent(hWnd) == pWnd) {
+        try {
+            pWnd->CWnd::OnNcDestroy();
+        } catch (...) {
+            orvafx::swallowException({hWnd, nMsg, wParam, lParam, 0, {}});
+        }
     }
     inHand = before;
     return result;
@@ -97,6 +156,10 @@ LRESULT CWnd::Default() {
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     orvafx::ControlColor color;
+    // Numbers of the foundation's own making carry its records; sent from outside they mean nothing.
+    if ((message == WM_CTLCOLOR || message == WM_CTLCOLOR + WM_REFLECT_BASE) &&
+        threadState().message.message == message)
+        return FALSE;
     if (message == WM_COMMAND) {
         if (!OnCommand(wParam, lParam))
             return FALSE;
@@ -282,6 +345,7 @@ void CWnd::OnNcDestroy() {
     // An owner-drawn combo deletes its items in here: the object must still be there for it.
     Default();
     ReturnProcedure();
+    m_bInChain = FALSE; // nothing is left with a window that ends
     Detach();
     PostNcDestroy();
 }

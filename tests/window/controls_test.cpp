@@ -258,6 +258,10 @@ TEST(FileDialog, TakesNamesApart) {
         EXPECT_STREQ(row.path, dialog.GetNextPathName(pos));
         EXPECT_EQ(NULL, pos);
     }
+    // A name that is too long loses no half character.
+    CString overlong('a', MAX_PATH - 2);
+    overlong += "文";
+    EXPECT_STREQ(overlong.Left(MAX_PATH - 2), CFileDialog(FALSE, NULL, overlong).GetPathName());
     CFileDialog several(TRUE, NULL, NULL, OFN_ALLOWMULTISELECT);
     char names[] = "C:\\a\0b.c\0d.e\0";
     several.m_ofn.lpstrFile = names;

@@ -87,6 +87,10 @@ TEST(Dialog, MayEndBeforeItBegins) {
     EXPECT_EQ(-1, missing.DoModal());
     CDialog modeless;
     EXPECT_FALSE(modeless.Create(9999u));
+    CIdleDlg half;
+    half.m_init = dialog.m_init;
+    EXPECT_FALSE(half.Create(IDD_EMPTY));
+    EXPECT_EQ(NULL, half.m_hWnd);
 }
 
 TEST(Dialog, AnOwnerThatGoesTakesTheDialogAlong) {

@@ -181,6 +181,77 @@ TEST(Lifetime, SubclassingIsUndoneInAnyOrder) {
     ::DestroyWindow(window);
 }
 
+TEST(Lifetime, AControlWorksOnWithoutItsObject) {
+    for (bool stranger : {false, true}) {
+        HWND window = ::CreateWindowExA(0, "EDIT", "", WS_POPUP, 0, 0, 50, 20, NULL, NULL, NULL, NULL);
+        CEdit edit, next;
+        ASSERT_TRUE(edit.SubclassWindow(window));
+        if (stranger) {
+            ::SetPropA(window, "before", reinterpret_cast<HANDLE>(::GetWindowLongPtrW(window, GWLP_WNDPROC)));
+            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(strangersProc));
+        }
+        EXPECT_EQ(window, stranger ? edit.UnsubclassWindow() : edit.Detach());
+        char text[8] = "";
+        ::SetWindowTextA(window, "文");
+        EXPECT_EQ(1, ::SendMessageA(window, EM_GETLINECOUNT, 0, 0)) << stranger;
+        ::GetWindowTextA(window, text, 8);
+        EXPECT_STREQ("文", text) << stranger;
+        // Another object takes it over and gets in nobody's way.
+        ASSERT_TRUE(stranger ? next.SubclassWindow(window) : next.Attach(window));
+        next.SetSel(0, -1);
+        next.ReplaceSel("字");
+        CString replaced;
+        next.GetWindowText(replaced);
+        EXPECT_STREQ("字", replaced) << stranger;
+        ::DestroyWindow(window);
+        EXPECT_EQ(NULL, next.m_hWnd) << stranger;
+    }
+}
+
+// --- ends that fail
+
+class CBadEndWnd : public CCountedWnd {
+public:
+    int how = 0;
+
+protected:
+    void PreSubclassWindow() override {
+        if (how == 2)
+            AfxThrowResourceException();
+    }
+    afx_msg void OnNcDestroy() {
+        if (how == 0)
+            AfxThrowResourceException();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CBadEndWnd, CCountedWnd)
+ON_WM_NCDESTROY()
+END_MESSAGE_MAP()
+
+TEST(Lifetime, NoObjectStaysAtAWindowThatIsGone) {
+    for (int how : {0, 1}) { // throws, forgets its base
+        DebugEvents events;
+        CBadEndWnd object;
+        object.how = how;
+        ASSERT_TRUE(object.Make());
+        const HWND window = object.m_hWnd;
+        ends = 0;
+        ::DestroyWindow(window);
+        EXPECT_EQ(1, ends) << how;
+        EXPECT_EQ(NULL, object.m_hWnd) << how;
+        EXPECT_EQ(NULL, CWnd::FromHandlePermanent(window)) << how;
+    }
+    HWND plain = ::CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, NULL, NULL, NULL, NULL);
+    CBadEndWnd object;
+    object.how = 2;
+    EXPECT_THROW(object.SubclassWindow(plain), CException*);
+    EXPECT_EQ(NULL, object.m_hWnd);
+    EXPECT_EQ(NULL, CWnd::FromHandlePermanent(plain));
+    ::DestroyWindow(plain);
+}
+
 // --- handlers that throw
 
 class CThrowingWnd : public CHiddenWnd {
@@ -236,11 +307,16 @@ TEST(Lifetime, StrangeParametersDoNoHarm) {
     CComboBox combo;
     ASSERT_TRUE(
         combo.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED, CRect(0, 0, 50, 60), &parent, 3));
+    auto* frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(NULL, "", WS_OVERLAPPEDWINDOW, CRect(0, 0, 90, 90), &parent));
     const auto stranger = reinterpret_cast<LPARAM>(::GetDesktopWindow());
     for (UINT message :
          {WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM, WM_NOTIFY, WM_COMMAND, WM_HSCROLL,
           WM_CTLCOLOREDIT, WM_CHARTOITEM, WM_INITMENUPOPUP, WM_NOTIFYFORMAT, WM_SETCURSOR, WM_CONTEXTMENU})
-        parent.SendMessage(message, 0, 0);
+        for (CWnd* window : {static_cast<CWnd*>(&parent), static_cast<CWnd*>(frame)})
+            window->SendMessage(message, 0, 0);
+    parent.SendMessage(WM_CTLCOLOR, 0, 0x12345);
+    combo.SendMessage(WM_CTLCOLOR + WM_REFLECT_BASE, 0, 0x12345);
     for (UINT message : {WM_COMMAND, WM_HSCROLL, WM_CHARTOITEM})
         for (LPARAM lParam : {stranger, LPARAM(0x12345), LPARAM(-1)}) {
             parent.SendMessage(message, static_cast<WPARAM>(-1), lParam);
