@@ -19,14 +19,17 @@
 #include <orvfc/linestyle/OrvGraphic.h>
 #include <orvfc/pickers/AlignCmb.h>
 #include <orvfc/pickers/CharSpaceCmb.h>
+#include <orvfc/pickers/ColorPicker.h>
 #include <orvfc/pickers/ColorSet.h>
 #include <orvfc/pickers/FontAslope.h>
 #include <orvfc/pickers/FontCombox.h>
 #include <orvfc/pickers/FontShape.h>
 #include <orvfc/pickers/FontShapeButton.h>
 #include <orvfc/pickers/FontSizeCmb.h>
+#include <orvfc/pickers/OrvFillTypeCmb.h>
 #include <orvfc/pickers/OrvFontComboBox.h>
 #include <orvfc/pickers/OrvRecordCombo.h>
+#include <orvfc/pickers/PFCombox.h>
 #include <orvfc/services/COrvVersion.h>
 #include <orvfc/services/DateFormat.h>
 #include <orvfc/services/DynamicArray.h>

@@ -92,6 +92,7 @@ int COrvRecordCombo::InsertRecord(int nIndex, COrvCmbRecord* pRecord) {
     // Only owner-drawn combos say when an item goes.
     ASSERT(m_hWnd && OwnsItems());
     int nItem = CB_ERR;
+    const int nSelected = m_hWnd ? GetCurSel() : -1;
     if (m_hWnd && OwnsItems() && nIndex >= -1) {
         const Flag filling(m_bFilling);
         if (HasStrings()) {
@@ -104,7 +105,19 @@ int COrvRecordCombo::InsertRecord(int nIndex, COrvCmbRecord* pRecord) {
     }
     if (nItem < 0)
         delete pRecord;
+    else if (nSelected >= nItem && GetCurSel() != nSelected + 1)
+        SetCurSel(nSelected + 1);
     return nItem;
+}
+
+COrvCmbRecord* COrvRecordCombo::TakeRecord(int nIndex) {
+    COrvCmbRecord* pRecord = GetRecord(nIndex);
+    const Flag filling(m_bFilling);
+    if (pRecord)
+        SetItemDataPtr(nIndex, NULL);
+    if (m_hWnd)
+        DeleteString(static_cast<UINT>(nIndex));
+    return pRecord;
 }
 
 COrvCmbRecord* COrvRecordCombo::GetRecord(int nIndex) const {
@@ -121,9 +134,25 @@ void COrvRecordCombo::DeleteRecord(const COrvCmbRecord* pRecord) {
         }
 }
 
+int COrvRecordCombo::FindNamed(const CString& strName) const {
+    return FindRecord<COrvCmbRecord>(
+        [&](const COrvCmbRecord& record) { return record.GetName().Compare(strName) == 0; });
+}
+
+int COrvRecordCombo::SelectItem(int nIndex) {
+    if (!m_hWnd || nIndex < 0 || nIndex >= GetCount())
+        return 0;
+    SetCurSel(nIndex);
+    return 1;
+}
+
+CString COrvRecordCombo::CurrentName() const {
+    const auto* pRecord = CurrentRecord<COrvCmbRecord>();
+    return pRecord ? pRecord->GetName() : CString();
+}
+
 void COrvRecordCombo::SetInit() {
-    if (m_hWnd && GetCount() > 0)
-        SetCurSel(0);
+    SelectItem(0);
 }
 
 void COrvRecordCombo::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
@@ -132,11 +161,17 @@ void COrvRecordCombo::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
         return;
     const orv::SavedDC saved(pDC);
     const CRect rc(lpDrawItemStruct->rcItem);
+    // A sample may be higher than its row.
+    pDC->IntersectClipRect(&rc);
     const int nState = static_cast<int>(lpDrawItemStruct->itemState & (ODS_SELECTED | ODS_DISABLED));
     if (lpDrawItemStruct->itemID == static_cast<UINT>(-1))
         orv::paintBackground(pDC, rc, nState);
     else if (auto* pRecord = reinterpret_cast<COrvCmbRecord*>(lpDrawItemStruct->itemData))
-        pRecord->DrawItem(pDC, rc, nState);
+        DrawRecord(*pRecord, pDC, rc, nState);
+}
+
+void COrvRecordCombo::DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& rc, int nState) {
+    record.DrawItem(pDC, rc, nState);
 }
 
 void COrvRecordCombo::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {

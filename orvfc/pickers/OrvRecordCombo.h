@@ -60,27 +60,47 @@ protected:
 
     // Takes the record over and gives its item's index, behind the last item (-1) or before nIndex. On
     // failure (no window, no room, not owner-drawn, an index that there is not) CB_ERR or CB_ERRSPACE, and
-    // the record is deleted. Null adds an item without record. CBS_SORT does not count.
+    // the record is deleted. Null adds an item without record. The selected item stays selected; CBS_SORT
+    // does not count.
     int InsertRecord(int nIndex, COrvCmbRecord* pRecord);
+    // Removes the item and gives its record to the caller.
+    COrvCmbRecord* TakeRecord(int nIndex);
     // NULL for an index that there is not, and for an item without record.
     COrvCmbRecord* GetRecord(int nIndex) const;
     // The record's item goes. Null, or a record that no item has: nothing happens.
     void DeleteRecord(const COrvCmbRecord* pRecord);
-    // The first item, from nFirst on, whose record fits; -1 when none does.
+    // add(row) for each row of a set: the number of items that came. Null: 0.
+    template <class Set, class Add>
+    static int AddRows(Set* pSet, Add add) {
+        int nAdded = 0;
+        for (int i = 0; pSet && i < pSet->GetSize(); ++i)
+            if (const auto* pRow = pSet->GetElement(i); pRow && add(*pRow) >= 0)
+                ++nAdded;
+        return nAdded;
+    }
+    // The first item whose record fits; -1 when none does.
     template <class Record, class Fits>
-    int FindRecord(Fits fits, int nFirst = 0) const {
+    int FindRecord(Fits fits) const {
         const int nCount = m_hWnd ? GetCount() : 0;
-        for (int i = nFirst; i < nCount; ++i)
+        for (int i = 0; i < nCount; ++i)
             if (const auto* pRecord = static_cast<const Record*>(GetRecord(i)); pRecord && fits(*pRecord))
                 return i;
         return -1;
     }
+    // The first item whose record bears the name, byte for byte; -1 when none does.
+    int FindNamed(const CString& strName) const;
+    // Selects the item and gives 1; 0 leaves the selection when there is no such item.
+    int SelectItem(int nIndex);
+    // Of the selected record; empty when there is none.
+    CString CurrentName() const;
     // The selected record; NULL when there is none.
     template <class Record>
     const Record* CurrentRecord() const {
         return static_cast<const Record*>(GetRecord(m_hWnd ? GetCurSel() : -1));
     }
 
+    // Draws one row: the record does it.
+    virtual void DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& rc, int nState);
     // After the selection has changed by mouse or keyboard. The window may be gone when it returns.
     virtual void OnSelchange() = 0;
     // Posts: to the message window with wParam 0, else to the parent with wParam = the combo's identifier.

@@ -30,7 +30,7 @@ LRESULT CPickerDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message >= 0xC000) {
         char name[64] = "";
         // Registered messages share their names' table with clipboard formats.
-        if (::GetClipboardFormatNameA(message, name, sizeof name))
+        if (::GetClipboardFormatNameA(message, name, sizeof name) && strncmp(name, "WM_", 3) == 0)
             told.push_back(std::string(name) + " " + std::to_string(wParam) + " " + std::to_string(lParam));
     }
     if (message == WM_COMMAND && HIWORD(wParam) == CBN_SELCHANGE)
@@ -41,6 +41,60 @@ LRESULT CPickerDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 bool focusOn(CWnd& window) {
     window.SetFocus();
     return waitUntil([&] { return ::GetFocus() == window.m_hWnd && ::GetForegroundWindow() != NULL; });
+}
+
+namespace {
+
+HWND hostWindow;
+std::vector<InDialogs::Step> stepsLeft;
+
+void CALLBACK nextStep(HWND, UINT, UINT_PTR, DWORD) {
+    const HWND dialog = ::GetForegroundWindow();
+    const HWND focus = ::GetFocus();
+    if (stepsLeft.empty() || dialog == hostWindow || !focus || !::IsChild(dialog, focus))
+        return;
+    char kind[16] = "", title[64] = "";
+    ::GetClassNameA(dialog, kind, sizeof kind);
+    ::GetWindowTextA(dialog, title, sizeof title);
+    if (strcmp(kind, "#32770") != 0 || (*stepsLeft[0].title && strcmp(title, stepsLeft[0].title) != 0))
+        return;
+    const auto act = stepsLeft[0].act;
+    stepsLeft.erase(stepsLeft.begin());
+    act(dialog);
+}
+
+} // namespace
+
+InDialogs::InDialogs(HWND host, std::vector<Step> steps) {
+    hostWindow = host;
+    stepsLeft = std::move(steps);
+    m_timer = ::SetTimer(NULL, 0, 10, nextStep);
+}
+
+InDialogs::~InDialogs() {
+    ::KillTimer(NULL, m_timer);
+    stepsLeft.clear();
+}
+
+bool InDialogs::done() const {
+    return stepsLeft.empty();
+}
+
+HWND listOf(CComboBox& combo) {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    combo.GetComboBoxInfo(&info);
+    return info.hwndList;
+}
+
+std::string textsOf(const CComboBox& combo) {
+    std::string texts;
+    for (int i = 0; i < combo.GetCount(); ++i) {
+        CString text;
+        combo.GetLBText(i, text);
+        texts += std::string(i ? "|" : "") + text.GetString();
+    }
+    return texts;
 }
 
 Picture::Picture(int width, int height) : m_size(width, height) {

@@ -6,6 +6,7 @@
 
 #include "support/input.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,30 @@ protected:
 
 // Waits for it and lets its key messages be processed.
 bool focusOn(CWnd& window);
+
+// What a user does in dialogs that turn a loop of their own. Each step waits until its dialog, or with an
+// empty title any new dialog, has the keyboard.
+class InDialogs {
+public:
+    struct Step {
+        const char* title;
+        std::function<void(HWND)> act;
+    };
+    // host: is none of them.
+    InDialogs(HWND host, std::vector<Step> steps);
+    ~InDialogs();
+    InDialogs(const InDialogs&) = delete;
+    InDialogs& operator=(const InDialogs&) = delete;
+    bool done() const;
+
+private:
+    UINT_PTR m_timer;
+};
+
+// The list window of a combo.
+HWND listOf(CComboBox& combo);
+// What rows 0 to n - 1 are called, separated by bars.
+std::string textsOf(const CComboBox& combo);
 
 // A row drawn into memory.
 class Picture {

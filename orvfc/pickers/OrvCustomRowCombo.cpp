@@ -1,0 +1,125 @@
+#include "OrvCustomRowCombo.h"
+
+IMPLEMENT_DYNAMIC(COrvCustomRowCombo, COrvRecordCombo)
+
+BEGIN_MESSAGE_MAP(COrvCustomRowCombo, COrvRecordCombo)
+ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &COrvCustomRowCombo::OnSelendok)
+ON_CONTROL_REFLECT_EX(CBN_SELENDCANCEL, &COrvCustomRowCombo::OnSelendcancel)
+ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &COrvCustomRowCombo::OnCloseup)
+END_MESSAGE_MAP()
+
+// --- the custom row
+
+BOOL COrvCustomRowCombo::IsCustom(const COrvCmbRecord& record) {
+    return record.GetName() == _T("其它...");
+}
+
+int COrvCustomRowCombo::GetCustomIndex() const {
+    for (int i = (m_hWnd ? GetCount() : 0) - 1; i >= 0; --i)
+        if (const COrvCmbRecord* pRecord = GetRecord(i); pRecord && IsCustom(*pRecord))
+            return i;
+    return -1;
+}
+
+void COrvCustomRowCombo::SetCustormToBottom() {
+    const int nCustom = GetCustomIndex();
+    if (nCustom < 0 || nCustom == GetCount() - 1)
+        return;
+    const BOOL bSelected = GetCurSel() == nCustom;
+    const int nItem = InsertRecord(-1, TakeRecord(nCustom));
+    if (bSelected)
+        SetCurSel(nItem);
+}
+
+int COrvCustomRowCombo::InsertBeforeCustom(COrvCmbRecord* pRecord) {
+    return InsertRecord(GetCustomIndex(), pRecord);
+}
+
+// --- what is current
+
+void COrvCustomRowCombo::Remember() {
+    const COrvCmbRecord* pRecord = GetRecord(GetCurSel());
+    if (!pRecord || IsCustom(*pRecord))
+        return;
+    m_strCurrent = pRecord->GetName();
+    m_pCurrent = pRecord;
+}
+
+void COrvCustomRowCombo::SelectCurrentAgain() {
+    const CString& strName = m_strCurrent;
+    int nItem = FindRecord<COrvCmbRecord>(
+        [&](const COrvCmbRecord& record) { return &record == m_pCurrent && record.GetName() == strName; });
+    if (nItem < 0)
+        nItem = FindNamed(strName);
+    if (nItem < 0)
+        nItem = GetCount() < 2 ? -1 : 0;
+    SetCurSel(nItem);
+}
+
+// --- choices
+
+void COrvCustomRowCombo::OnSelchange() {
+    m_bAskOnClose = FALSE;
+    const COrvCmbRecord* pRecord = CurrentRecord<COrvCmbRecord>();
+    if (!pRecord)
+        return;
+    if (!IsCustom(*pRecord)) {
+        Remember();
+        PostChoice(GetChoiceMessage());
+    } else if (GetDroppedState()) {
+        m_bAskOnClose = TRUE;
+    } else {
+        Ask();
+    }
+}
+
+void COrvCustomRowCombo::Ask() {
+    const HWND hWnd = m_hWnd;
+    const BOOL bChosen = AskValue();
+    if (FromHandlePermanent(hWnd) != this)
+        return; // gone while the user was asked
+    if (!bChosen)
+        SelectCurrentAgain();
+    PostChoice(GetChoiceMessage());
+}
+
+BOOL COrvCustomRowCombo::OnSelendok() {
+    m_bCancelled = FALSE;
+    return FALSE;
+}
+
+BOOL COrvCustomRowCombo::OnSelendcancel() {
+    m_bCancelled = TRUE;
+    return FALSE;
+}
+
+BOOL COrvCustomRowCombo::OnCloseup() {
+    const BOOL bAsk = m_bAskOnClose;
+    m_bAskOnClose = FALSE;
+    if (bAsk && m_bCancelled)
+        SelectCurrentAgain();
+    else if (bAsk)
+        Ask();
+    return FALSE;
+}
+
+LRESULT COrvCustomRowCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT lResult = COrvRecordCombo::WindowProc(message, wParam, lParam);
+    switch (message) {
+    case CB_SETCURSEL:
+    case CB_SELECTSTRING:
+        Remember();
+        break;
+    case CB_RESETCONTENT:
+        m_strCurrent.Empty();
+        break;
+    default:
+        break;
+    }
+    return lResult;
+}
+
+void COrvCustomRowCombo::Dump(CDumpContext& dc) const {
+    COrvRecordCombo::Dump(dc);
+    dc << "current = " << m_strCurrent << "\n";
+}
