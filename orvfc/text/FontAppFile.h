@@ -2,4 +2,5 @@
 
 // Fonts and texts.
 
+#include <orvfc/text/OrvDrawText.h>
 #include <orvfc/text/OrvFont.h>

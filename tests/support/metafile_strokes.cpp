@@ -36,9 +36,36 @@ public:
             brushes_[r.ihBrush] = r.lb.lbColor;
             break;
         }
+        case EMR_EXTCREATEFONTINDIRECTW: {
+            const auto& r = as<EMREXTCREATEFONTINDIRECTW>(record);
+            fonts_[r.ihFont] = int(r.elfw.elfLogFont.lfEscapement);
+            break;
+        }
+        case EMR_SETTEXTCOLOR:
+            textColor_ = as<EMRSETTEXTCOLOR>(record).crColor;
+            break;
+        case EMR_SAVEDC:
+            saved_.push_back({pen_, brush_, escapement_, textColor_});
+            break;
+        case EMR_RESTOREDC:
+            restore(as<EMRRESTOREDC>(record).iRelative);
+            break;
+        case EMR_EXTTEXTOUTW:
+            write(record, as<EMREXTTEXTOUTW>(record).emrtext);
+            break;
+        case EMR_FILLRGN: {
+            const auto& r = as<EMRFILLRGN>(record);
+            const RECT& b = reinterpret_cast<const RGNDATA*>(r.RgnData)->rdh.rcBound;
+            char text[96];
+            snprintf(text, sizeof(text), "region %d,%d %d,%d fill %06X", int(b.left), int(b.top),
+                     int(b.right), int(b.bottom), unsigned(brushes_[r.ihBrush]));
+            seen.push_back(text);
+            break;
+        }
         case EMR_DELETEOBJECT:
             pens_.erase(as<EMRDELETEOBJECT>(record).ihObject);
             brushes_.erase(as<EMRDELETEOBJECT>(record).ihObject);
+            fonts_.erase(as<EMRDELETEOBJECT>(record).ihObject);
             break;
         case EMR_SELECTOBJECT:
             select(as<EMRSELECTOBJECT>(record).ihObject);
@@ -102,6 +129,37 @@ private:
             pen_ = pen->second;
         else if (auto brush = brushes_.find(object); brush != brushes_.end())
             brush_ = brush->second;
+        else if (auto font = fonts_.find(object); font != fonts_.end())
+            escapement_ = font->second;
+    }
+
+    // level: negative, counted back from the last one saved, or the number of one.
+    void restore(int level) {
+        const size_t kept = level < 0 ? saved_.size() + level : size_t(level - 1);
+        if (kept >= saved_.size())
+            return;
+        const State& state = saved_[kept];
+        pen_ = state.pen;
+        brush_ = state.brush;
+        escapement_ = state.escapement;
+        textColor_ = state.textColor;
+        saved_.resize(kept);
+    }
+
+    void write(const ENHMETARECORD& record, const EMRTEXT& text) {
+        const auto* wide =
+            reinterpret_cast<const WCHAR*>(reinterpret_cast<const BYTE*>(&record) + text.offString);
+        char bytes[512] = "";
+        const int count =
+            ::WideCharToMultiByte(936, 0, wide, int(text.nChars), bytes, sizeof(bytes) - 1, NULL, NULL);
+        char part[64];
+        snprintf(part, sizeof(part), "text %d,%d ", int(text.ptlReference.x), int(text.ptlReference.y));
+        std::string line = part + std::string(bytes, size_t(count));
+        snprintf(part, sizeof(part), " %06X", unsigned(textColor_));
+        line += part;
+        if (escapement_ != 0)
+            line += " turned " + std::to_string(escapement_);
+        seen.push_back(line);
     }
 
     void draw(std::vector<POINT> points, bool filled) {
@@ -110,7 +168,18 @@ private:
         seen.push_back(strokeText({std::move(points), pen_.width, pen_.color, filled, brush_}));
     }
 
+    struct State {
+        Pen pen;
+        COLORREF brush;
+        int escapement;
+        COLORREF textColor;
+    };
+
     std::map<DWORD, Pen> pens_;
+    std::map<DWORD, int> fonts_;
+    std::vector<State> saved_;
+    int escapement_ = 0;
+    COLORREF textColor_ = 0;
     std::map<DWORD, COLORREF> brushes_;
     Pen pen_ = {PS_SOLID, 0, 0};
     COLORREF brush_ = 0xFFFFFF;
