@@ -178,6 +178,33 @@ TEST_F(Exchange, ControlsAreTakenOverOnceAndTheRestIsTold) {
     EXPECT_EQ(3, value);
 }
 
+TEST_F(Exchange, AFixedBufferKeepsWholeCharacters) {
+    char buffer[] = "......";
+    for (auto [room, text] : {std::pair{0, "......"}, {1, ""}, {3, "a"}, {4, "a文"}, {6, "a文b"}}) {
+        strcpy(buffer, "......");
+        dialog.SetDlgItemText(IDC_EDIT, "a文b");
+        dialog.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, buffer, room); };
+        EXPECT_TRUE(dialog.UpdateData(TRUE));
+        EXPECT_STREQ(text, buffer) << room;
+    }
+}
+
+TEST(ThreadObject, IsTheApplicationInItsOwnThreadOnly) {
+    EXPECT_EQ(&theApp, AfxGetThread());
+    CWinThread* other = &theApp;
+    HANDLE thread = ::CreateThread(
+        NULL, 0,
+        [](LPVOID answer) -> DWORD {
+            *static_cast<CWinThread**>(answer) = AfxGetThread();
+            return 0;
+        },
+        &other, 0, NULL);
+    ASSERT_TRUE(thread);
+    ::WaitForSingleObject(thread, INFINITE);
+    ::CloseHandle(thread);
+    EXPECT_EQ(NULL, other);
+}
+
 TEST_F(Exchange, ControlsAreNotHeardDuringTheExchange) {
     dialog.SetDlgItemText(IDC_EDIT, "a");
     EXPECT_EQ(1, dialog.m_nEdits);
