@@ -5,6 +5,7 @@ namespace gallery {
 std::span<const Page> pages() {
     static const Page all[] = {
         {"线型", createLinePage},
+        {"选择控件", createPickerPage},
     };
     return all;
 }

@@ -17,5 +17,6 @@ struct Page {
 std::span<const Page> pages();
 
 CWnd* createLinePage(CWnd& parent, UINT id);
+CWnd* createPickerPage(CWnd& parent, UINT id);
 
 } // namespace gallery

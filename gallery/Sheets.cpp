@@ -7,6 +7,7 @@ std::span<const Sheet> sheets() {
         {"lines", 1280, 1160, drawLineSheet},
         {"bitmaps", 1280, 1500, drawBitmapSheet, writeBitmapSamples},
         {"time-scales", 1280, 1300, drawTimeScaleSheet},
+        {"pickers", 1280, 970, drawPickerSheet},
         {"about", 1280, 760, drawAboutSheet},
     };
     return all;

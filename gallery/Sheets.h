@@ -22,6 +22,7 @@ std::span<const Sheet> sheets();
 void drawLineSheet(CDC& dc);
 void drawTimeScaleSheet(CDC& dc);
 void drawAboutSheet(CDC& dc);
+void drawPickerSheet(CDC& dc);
 void drawBitmapSheet(CDC& dc);
 bool writeBitmapSamples(const CString& folder);
 

@@ -132,7 +132,8 @@ void ColorPalette::showTip() {
     if (bShow) {
         tool.lpszText = const_cast<char*>(m_rows[static_cast<size_t>(m_nHot)].strName.GetString());
         m_tip.SendMessage(TTM_UPDATETIPTEXTA, 0, reinterpret_cast<LPARAM>(&tool));
-        CPoint at(m_grid.cell(m_nHot).right, m_grid.cell(m_nHot).bottom + 2);
+        // Below all cells: it hides none.
+        CPoint at(m_grid.cell(m_nHot).left, m_grid.size().cy + 4);
         ::ClientToScreen(m_hWnd, &at);
         m_tip.SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(at.x, at.y));
     }

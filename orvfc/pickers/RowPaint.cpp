@@ -43,6 +43,9 @@ void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int
     pDC->SetBkColor(::GetSysColor(backgroundOf(nState)));
     pDC->SetTextColor(::GetSysColor(nState & ODS_DISABLED ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
     CRect rcName(rc.left + nLeft, rc.top, rc.right, rc.bottom);
+    // The text's opaque ground leaves the frame alone.
+    if (nState & ODS_SELECTED)
+        rcName.DeflateRect(0, 1, 1, 1);
     pDC->DrawText(strName, &rcName, DT_SINGLELINE | DT_VCENTER);
 }
 

@@ -351,7 +351,7 @@ TEST_F(Program, TourDrawsEverySheet) {
     EXPECT_NE(outcome.output.find("lines.png"), std::string::npos) << outcome.output;
     EXPECT_EQ(files(), (std::set<std::string>{"about.png", "bitmap-1.bmp", "bitmap-4.bmp", "bitmap-8.bmp",
                                               "bitmap-16.bmp", "bitmap-24.bmp", "bitmap-32.bmp",
-                                              "bitmaps.png", "lines.png", "time-scales.png"}));
+                                              "bitmaps.png", "lines.png", "pickers.png", "time-scales.png"}));
     EXPECT_EQ(pngSize(read("lines.png")), "1280x1160");
 }
 

@@ -34,6 +34,8 @@ TEST(LineRecords, ColorRow) {
         EXPECT_EQ(RGB(200, 10, 20), picture.at(3, 3));
         EXPECT_EQ(RGB(200, 10, 20), picture.at(14, 14));
         EXPECT_EQ(back, picture.at(16, 16));
+        for (int x = 0; state & ODS_SELECTED && x < 160; ++x)
+            EXPECT_EQ(kFrame, picture.at(x, 0)) << "the name leaves the frame alone, at " << x;
         const CRect name = picture.inked(back, 17, 158);
         EXPECT_GE(name.left, 17 + (state & ODS_SELECTED ? 0 : 4));
         EXPECT_GT(name.right, 40);

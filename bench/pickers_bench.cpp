@@ -1,0 +1,104 @@
+// The pickers of line properties against bare calls: filling a list, painting a row.
+
+#include <orvfc/ORVFC.h>
+
+#include "harness.h"
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int manyRows = 5000;
+const CRect row(0, 0, 160, 18);
+
+// Windows and a paper to paint on, made before the first row is measured.
+struct Stage {
+    CWnd parent;
+    CColorCmb colors;
+    CComboBox bare;
+    CColorSet set;
+    CDC dc;
+    CBitmap bitmap;
+    COrvMainDrawManage patterns{CString()};
+
+    Stage() {
+        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 300, NULL, NULL);
+        const CRect rect(0, 0, 200, 200);
+        colors.Create(WS_CHILD, rect, &parent, 1);
+        bare.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, rect, &parent, 2);
+        set.EmptyAllColors();
+        for (int i = 0; i < manyRows; ++i) {
+            CString name;
+            name.Format("颜色 %d", i);
+            set.AddItem(name, static_cast<COLORREF>(i));
+        }
+        CClientDC screen(NULL);
+        dc.CreateCompatibleDC(&screen);
+        bitmap.CreateCompatibleBitmap(&screen, row.Width(), row.Height());
+        dc.SelectObject(&bitmap);
+    }
+
+    static Stage& the() {
+        static Stage& stage = *new Stage;
+        return stage;
+    }
+};
+
+void fillColors(int times) {
+    Stage& stage = Stage::the();
+    while (times--) {
+        stage.colors.ResetContent();
+        stage.colors.AddItem(&stage.set);
+    }
+}
+
+void fillBare(int times) {
+    Stage& stage = Stage::the();
+    while (times--) {
+        stage.bare.ResetContent();
+        for (int i = 0; i < manyRows; ++i)
+            stage.bare.AddString(stage.set.GetElement(i)->strName);
+    }
+}
+
+void paintBare(int times) {
+    Stage& stage = Stage::the();
+    const HBRUSH brush = ::GetSysColorBrush(COLOR_WINDOW);
+    while (times--) {
+        ::FillRect(stage.dc.m_hDC, &row, brush);
+        ::TextOutA(stage.dc.m_hDC, row.left + 21, row.top + 1, "虚点点线", 8);
+    }
+}
+
+template <class Record>
+orv::bench::Work painting(Record record) {
+    auto painted = std::make_shared<Record>(record);
+    return [painted](int times) {
+        while (times--) {
+            if constexpr (std::is_same_v<Record, CCmbLineStyleData>)
+                painted->DrawItem(&Stage::the().dc, row, TRUE, &Stage::the().patterns);
+            else
+                painted->DrawItem(&Stage::the().dc, row, TRUE);
+        }
+    };
+}
+
+const orv::bench::Rows rows([](orv::bench::Suite& suite) {
+    Stage::the();
+    suite.add({"pickers", "5,000 colours into their combo / the same texts added bare", 1.5, fillColors,
+               fillBare, 15});
+    // One whole row each: ground, frame, sample, name.
+    suite.add({"pickers", "a colour's row / FillRect and TextOut", 4,
+               painting(CCmbColorData(0xFF, "虚点点线")), paintBare});
+    suite.add({"pickers", "a dashed line's row / FillRect and TextOut", 8,
+               painting(CCmbLineStyleData(4, "虚点点线")), paintBare});
+    suite.add({"pickers", "a width's row / FillRect and TextOut", 4,
+               painting(CCmbLineWidthData(3, "虚点点线")), paintBare});
+    suite.add({"pickers", "a brush figure's row / FillRect and TextOut", 4,
+               painting(CCmbBrushFigureData(3, "虚点点线", 0)), paintBare});
+    suite.add(
+        {"pickers", "a filling's row / FillRect and TextOut", 4, painting(CCmbFillTypeData(3)), paintBare});
+});
+
+} // namespace

@@ -1,0 +1,111 @@
+// The pickers as the screen shows them: the page, each list open, the palette with its tip, disabled
+// controls.
+
+#include "PickerPage.h"
+#include "Sheets.h"
+
+namespace gallery {
+namespace {
+
+const CPoint pageAt(48, 120);
+const CSize pageSize(730, 420);
+constexpr int tilesTop = 600;
+constexpr int tileWidth = 240;
+
+void paintAll() {
+    MSG msg;
+    while (::PeekMessageW(&msg, NULL, 0, 0, PM_REMOVE)) {
+        ::TranslateMessage(&msg);
+        ::DispatchMessageW(&msg);
+    }
+}
+
+// What the screen shows in the rectangle. A window that has just come up may take a moment.
+void copyScreen(CDC& dc, CPoint to, const CRect& from) {
+    paintAll();
+    ::GdiFlush();
+    CWindowDC screen(NULL);
+    dc.BitBlt(to.x, to.y, from.Width(), from.Height(), &screen, from.left, from.top, SRCCOPY);
+}
+
+CRect withList(CComboBox& combo) {
+    CRect field, list, both;
+    combo.GetWindowRect(&field);
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    combo.GetComboBoxInfo(&info);
+    ::GetWindowRect(info.hwndList, &list);
+    both.UnionRect(&field, &list);
+    return both;
+}
+
+void drawTile(CDC& dc, int number, const char* caption, const CRect& from) {
+    const CPoint at(48 + number * tileWidth, tilesTop);
+    dc.TextOut(at.x, at.y, CString(caption));
+    copyScreen(dc, at + CSize(0, 30), from);
+}
+
+void drawPalette(CDC& dc, CColorPicker& picker) {
+    picker.SetFocus();
+    picker.CreatePaletteWindow();
+    for (const WPARAM key : {VK_DOWN, VK_RIGHT, VK_RIGHT}) {
+        picker.SendMessage(WM_KEYDOWN, key);
+    }
+    CRect field, palette;
+    picker.GetWindowRect(&field);
+    ::GetWindowRect(picker.GetPaletteWindow(), &palette);
+    palette.bottom += 26; // the tip
+    dc.TextOut(832, 120, CString("调色板"));
+    copyScreen(dc, CPoint(832, 150), field);
+    copyScreen(dc, CPoint(832, 150 + palette.top - field.top), palette);
+    picker.DestroyPaletteWindow();
+}
+
+} // namespace
+
+void drawPickerSheet(CDC& dc) {
+    CFont font;
+    font.CreatePointFont(110, "SimSun");
+    CFont* old = dc.SelectObject(&font);
+    dc.TextOut(48, 48, CString("线与填充的选择控件"));
+    CWnd frame;
+    PickerPage* page = NULL;
+    if (frame.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, pageSize.cx, pageSize.cy,
+                       NULL, NULL)) {
+        page = PickerPage::make(frame, 1);
+    }
+    if (page == NULL) {
+        dc.TextOut(48, 90, CString("没有屏幕，控件无法显示"));
+        dc.SelectObject(old);
+        return;
+    }
+    page->MoveWindow(0, 0, pageSize.cx, pageSize.cy);
+    page->ShowWindow(SW_SHOW);
+    frame.ShowWindow(SW_SHOW);
+    page->SetFocus();
+    frame.UpdateWindow();
+    copyScreen(dc, pageAt, CRect(CPoint(0, 0), pageSize));
+    drawPalette(dc, page->m_picker);
+    const struct {
+        CComboBox& combo;
+        const char* caption;
+    } tiles[] = {{page->m_color, "颜色"},
+                 {page->m_style, "线型"},
+                 {page->m_width, "线宽"},
+                 {page->m_figure, "图案"},
+                 {page->m_fill, "填充"}};
+    int number = 0;
+    for (const auto& tile : tiles) {
+        tile.combo.SetFocus();
+        tile.combo.ShowDropDown();
+        drawTile(dc, number++, tile.caption, withList(tile.combo));
+        tile.combo.ShowDropDown(FALSE);
+        tile.combo.EnableWindow(FALSE);
+    }
+    page->m_picker.EnableWindow(FALSE);
+    dc.TextOut(832, 330, CString("不可用"));
+    copyScreen(dc, CPoint(832, 360), CRect(24 + 110, 24, 24 + 110 + 210, 24 + 3 * 40));
+    dc.SelectObject(old);
+}
+
+} // namespace gallery
