@@ -65,8 +65,9 @@ std::vector<std::string> strokesOf(int style, COrvMainDrawManage* manage) {
     dc.CreateEnhanced(NULL, NULL, NULL, NULL);
     CCmbLineStyleData(style, "").DrawItem(&dc, CRect(10, 20, 200, 38), 0, manage);
     const HENHMETAFILE file = dc.CloseEnhanced();
-    const auto strokes = visibleStrokes(file);
+    auto strokes = visibleStrokes(file);
     ::DeleteEnhMetaFile(file);
+    std::erase_if(strokes, [](const std::string& line) { return line.rfind("text ", 0) == 0; });
     return strokes;
 }
 
