@@ -51,13 +51,8 @@ void pressKey(WORD key) {
 }
 
 void pressKey(WORD modifier, WORD key) {
-    // The screen tells which keys it holds when the focus has moved, and knows nothing of keys that programs
-    // press: such late news lets the modifier go. It is pressed until it is seen to be down.
-    const ULONGLONG end = ::GetTickCount64() + 30000;
-    do
-        send({keyInput(modifier, 0, 0)});
-    while (::GetAsyncKeyState(modifier) >= 0 && ::GetTickCount64() < end);
-    send({keyInput(key, 0, 0), keyInput(key, 0, KEYEVENTF_KEYUP), keyInput(modifier, 0, KEYEVENTF_KEYUP)});
+    send({keyInput(modifier, 0, 0), keyInput(key, 0, 0), keyInput(key, 0, KEYEVENTF_KEYUP),
+          keyInput(modifier, 0, KEYEVENTF_KEYUP)});
 }
 
 void typeText(const std::wstring& text) {
