@@ -54,10 +54,12 @@ void drawPalette(CDC& dc, CColorPicker& picker) {
     CRect field, palette;
     picker.GetWindowRect(&field);
     ::GetWindowRect(picker.GetPaletteWindow(), &palette);
-    palette.bottom += 26; // the tip
     dc.TextOut(832, 120, CString("调色板"));
     copyScreen(dc, CPoint(832, 150), field);
-    copyScreen(dc, CPoint(832, 150 + palette.top - field.top), palette);
+    const CPoint below(832, 150 + palette.top - field.top);
+    copyScreen(dc, below, palette);
+    copyScreen(dc, below + CSize(0, palette.Height()),
+               CRect(palette.left, palette.bottom, palette.left + 110, palette.bottom + 26)); // the tip
     picker.DestroyPaletteWindow();
 }
 

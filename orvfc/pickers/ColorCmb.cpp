@@ -96,8 +96,7 @@ UINT CColorCmb::GetChoiceMessage() const {
 }
 
 BOOL CColorCmb::AskValue() {
-    const int nCurrent = FindNamed(m_strCurrent);
-    const auto* pCurrent = static_cast<const CCmbColorData*>(GetRecord(nCurrent));
+    const auto* pCurrent = static_cast<const CCmbColorData*>(GetRecord(GetRememberedItem()));
     const HWND hWnd = m_hWnd;
     CColorDialog dialog(pCurrent ? pCurrent->m_crColor : 0, CC_FULLOPEN, this);
     const BOOL bChosen = dialog.DoModal() == IDOK;

@@ -1,6 +1,7 @@
 #include "ColorPalette.h"
 
 #include "ColorPicker.h"
+#include "NameSearch.h"
 #include "RowPaint.h"
 
 namespace orv {
@@ -158,6 +159,15 @@ bool ColorPalette::key(UINT nKey) {
     else
         return nKey == VK_RETURN || nKey == VK_SPACE;
     return true;
+}
+
+void ColorPalette::typed(UINT nChar) {
+    if (!m_typed.Add(m_picker.m_hWnd, nChar))
+        return;
+    const int nCell = rowTyped(m_typed.GetText(), m_grid.count(), m_nHot,
+                               [this](int i) { return m_rows[static_cast<size_t>(i)].strName; });
+    if (nCell >= 0)
+        hover(nCell);
 }
 
 LRESULT ColorPalette::handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -9,6 +9,7 @@
 
 #include "ColorSet.h"
 #include "PaletteGrid.h"
+#include "TypedText.h"
 
 class CColorPicker;
 
@@ -27,6 +28,8 @@ public:
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     // The picker's keys. False: none of the palette's.
     bool key(UINT nKey);
+    // A character for the picker: names are searched.
+    void typed(UINT nChar);
 
 private:
     bool open();
@@ -47,6 +50,7 @@ private:
     int m_nSelected = -1;
     HWND m_hWnd = NULL;
     CToolTipCtrl m_tip;
+    COrvTypedText m_typed;
 };
 
 } // namespace orv

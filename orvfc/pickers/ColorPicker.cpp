@@ -145,8 +145,11 @@ LRESULT CColorPicker::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
         if (OnKey(static_cast<UINT>(wParam)))
             return 0;
         break;
-    case WM_KEYUP:
     case WM_CHAR:
+        if (m_pPalette)
+            m_pPalette->typed(static_cast<UINT>(wParam));
+        return 0;
+    case WM_KEYUP:
         if (wParam == VK_SPACE)
             return 0;
         break;

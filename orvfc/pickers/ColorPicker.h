@@ -13,8 +13,9 @@ class ColorPalette;
 // create it; it becomes owner-drawn by itself, and its parent must be a window of the foundation.
 //
 // A press of the mouse, Space, F4 or Alt+Down opens the palette. There the mouse (also in one stroke: press,
-// move, let go), the arrow keys, Home and End lead to a colour, whose name a tip shows; a click, Enter or
-// Space chooses, Esc or a click elsewhere closes. The row 其它... opens the system's colour dialog.
+// move, let go), the arrow keys, Home, End and typing the beginning of a name lead to a colour, whose name a
+// tip shows; a click, Enter or Space chooses, Esc or a click elsewhere closes. The row 其它... opens the
+// system's colour dialog.
 class ORVFC_API CColorPicker : public CButton {
     DECLARE_DYNAMIC(CColorPicker)
 

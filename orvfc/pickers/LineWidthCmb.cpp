@@ -68,8 +68,7 @@ UINT CLineWidthCmb::GetChoiceMessage() const {
 }
 
 BOOL CLineWidthCmb::AskValue() {
-    const int nCurrent = FindNamed(m_strCurrent);
-    const auto* pCurrent = static_cast<const CCmbLineWidthData*>(GetRecord(nCurrent));
+    const auto* pCurrent = static_cast<const CCmbLineWidthData*>(GetRecord(GetRememberedItem()));
     const HWND hWnd = m_hWnd;
     CValueInputDlg dialog(_T("线宽毫米值："), pCurrent ? pCurrent->m_dWidth : kOtherwise, this);
     const BOOL bChosen = dialog.DoModal() == IDOK;

@@ -45,12 +45,15 @@ void COrvCustomRowCombo::Remember() {
     m_pCurrent = pRecord;
 }
 
+int COrvCustomRowCombo::GetRememberedItem() const {
+    const int nItem = FindRecord<COrvCmbRecord>([this](const COrvCmbRecord& record) {
+        return &record == m_pCurrent && record.GetName() == m_strCurrent;
+    });
+    return nItem < 0 ? FindNamed(m_strCurrent) : nItem;
+}
+
 void COrvCustomRowCombo::SelectCurrentAgain() {
-    const CString& strName = m_strCurrent;
-    int nItem = FindRecord<COrvCmbRecord>(
-        [&](const COrvCmbRecord& record) { return &record == m_pCurrent && record.GetName() == strName; });
-    if (nItem < 0)
-        nItem = FindNamed(strName);
+    int nItem = GetRememberedItem();
     if (nItem < 0)
         nItem = GetCount() < 2 ? -1 : 0;
     SetCurSel(nItem);

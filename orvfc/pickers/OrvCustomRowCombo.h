@@ -30,7 +30,10 @@ protected:
     // As InsertRecord, before the last such row or, without one, at the end.
     int InsertBeforeCustom(COrvCmbRecord* pRecord);
 
-    // The value of a row: the choice that a cancelled question goes back to. Set by every selection of a row
+    // The item that a cancelled question goes back to; -1 when it is gone.
+    int GetRememberedItem() const;
+
+    // The name of a row: the choice that a cancelled question goes back to. Set by every selection of a row
     // that is not the custom one.
     CString m_strCurrent;
     // That row's record; only compared: rows may bear the same name.

@@ -1,12 +1,11 @@
 #include "OrvRecordCombo.h"
 
+#include <string>
+
 #include "NameSearch.h"
 #include "RowPaint.h"
 
 namespace {
-
-// A pause between keys that begins a new search, in milliseconds.
-constexpr DWORD kNewSearch = 1000;
 
 class Flag {
 public:
@@ -37,7 +36,7 @@ ON_CONTROL_REFLECT_EX(CBN_SELCHANGE, &COrvRecordCombo::OnReflectSelchange)
 END_MESSAGE_MAP()
 
 COrvRecordCombo::COrvRecordCombo(CWnd* pMessageWnd, int nRowHeight)
-    : m_pMessageWnd(pMessageWnd), m_nRowHeight(nRowHeight), m_bFilling(FALSE), m_dwTyped(0), m_chLead(0) {}
+    : m_pMessageWnd(pMessageWnd), m_nRowHeight(nRowHeight), m_bFilling(FALSE) {}
 
 // A window that outlives its object would keep the records for ever.
 COrvRecordCombo::~COrvRecordCombo() {
@@ -202,42 +201,16 @@ void COrvRecordCombo::PostChoice(UINT message) {
 
 // --- typing
 
-CString COrvRecordCombo::TypedCharacter(UINT nChar) {
-    char bytes[4] = "";
-    if (::IsWindowUnicode(m_hWnd)) {
-        const auto ch = static_cast<WCHAR>(nChar);
-        ::WideCharToMultiByte(CP_ACP, 0, &ch, 1, bytes, 2, NULL, NULL);
-    } else if (m_chLead) {
-        bytes[0] = m_chLead;
-        bytes[1] = static_cast<char>(nChar);
-        m_chLead = 0;
-    } else if (::IsDBCSLeadByte(static_cast<BYTE>(nChar))) {
-        m_chLead = static_cast<char>(nChar);
-    } else {
-        bytes[0] = static_cast<char>(nChar);
-    }
-    return CString(bytes);
-}
-
 void COrvRecordCombo::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    const DWORD dwNow = static_cast<DWORD>(::GetMessageTime());
-    if (dwNow - m_dwTyped > kNewSearch)
-        m_strTyped.Empty();
-    // Control keys, and a blank that begins nothing, are the system's.
-    if (nChar < ' ' || (nChar == ' ' && m_strTyped.IsEmpty())) {
-        m_strTyped.Empty();
-        CComboBox::OnChar(nChar, nRepCnt, nFlags);
-        return;
-    }
-    m_dwTyped = dwNow;
-    m_strTyped += TypedCharacter(nChar);
-    if (!m_chLead)
+    if (m_typed.Add(m_hWnd, nChar))
         SelectTyped();
+    else
+        CComboBox::OnChar(nChar, nRepCnt, nFlags);
 }
 
 void COrvRecordCombo::SelectTyped() {
     const int nSelected = GetCurSel();
-    const int nFound = orv::rowTyped(m_strTyped, GetCount(), nSelected, [this](int nRow) {
+    const int nFound = orv::rowTyped(m_typed.GetText(), GetCount(), nSelected, [this](int nRow) {
         const COrvCmbRecord* pRecord = GetRecord(nRow);
         return pRecord ? pRecord->GetName() : CString();
     });
@@ -259,8 +232,32 @@ void COrvRecordCombo::SelectTyped() {
 
 // --- messages from anywhere
 
+// The selected name in the window's own kind of characters, cut to nRoom of them (0: only its length).
+LRESULT COrvRecordCombo::GiveText(WPARAM nRoom, LPARAM lpBuffer) const {
+    const CString strName = CurrentName();
+    if (!::IsWindowUnicode(m_hWnd)) {
+        if (nRoom > 0)
+            ::lstrcpynA(reinterpret_cast<LPSTR>(lpBuffer), strName, static_cast<int>(nRoom));
+        return nRoom > 0 ? ::lstrlenA(reinterpret_cast<LPCSTR>(lpBuffer)) : strName.GetLength();
+    }
+    std::wstring wide(static_cast<size_t>(strName.GetLength()), L'\0');
+    wide.resize(static_cast<size_t>(::MultiByteToWideChar(CP_ACP, 0, strName, strName.GetLength(),
+                                                          wide.data(), static_cast<int>(wide.size()))));
+    if (nRoom == 0)
+        return static_cast<LRESULT>(wide.size());
+    const size_t nCopied = wide.copy(reinterpret_cast<WCHAR*>(lpBuffer), nRoom - 1);
+    reinterpret_cast<WCHAR*>(lpBuffer)[nCopied] = L'\0';
+    return static_cast<LRESULT>(nCopied);
+}
+
 LRESULT COrvRecordCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+    case WM_GETTEXT:
+    case WM_GETTEXTLENGTH:
+        // The system would give the item's data out as a text.
+        if (!HasStrings() && (GetStyle() & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST)
+            return GiveText(message == WM_GETTEXT ? wParam : 0, lParam);
+        break;
     case CB_SETITEMDATA:
         // Somebody else's pointer would be deleted as a record.
         if (!m_bFilling)

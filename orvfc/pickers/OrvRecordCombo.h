@@ -3,6 +3,8 @@
 #include <afxwin.h>
 #include <orvfc/OrvApi.h>
 
+#include "TypedText.h"
+
 // What an item of an owner-drawn combo stands for: a value that has a name and can draw itself.
 class ORVFC_API COrvCmbRecord {
 public:
@@ -26,7 +28,7 @@ protected:
 //
 // Attach it to a dialog's combo (DDX_Control, SubclassDlgItem; give it CBS_OWNERDRAWFIXED and CBS_HASSTRINGS)
 // or create it: then the two styles, and CBS_DROPDOWNLIST where no kind was asked for, are added. Row heights
-// are set in both cases. Without CBS_HASSTRINGS everything works, but other programs see no item texts. The
+// are set in both cases. Without CBS_HASSTRINGS other programs see the selected item's name only. The
 // parent must be a window of the foundation: owner-drawing comes back through it. Items go with the window: a
 // window created anew is filled anew.
 //
@@ -120,13 +122,11 @@ private:
     void SetHeights();
     BOOL OwnsItems() const;
     BOOL HasStrings() const;
-    CString TypedCharacter(UINT nChar);
     void SelectTyped();
+    LRESULT GiveText(WPARAM nRoom, LPARAM lpBuffer) const;
 
     CWnd* m_pMessageWnd;
     int m_nRowHeight;
-    BOOL m_bFilling;    // the combo itself sets item data
-    CString m_strTyped; // for the search, while the keys follow each other quickly
-    DWORD m_dwTyped;    // when the last one came, in milliseconds
-    char m_chLead;      // first byte of a character whose second byte is still to come
+    BOOL m_bFilling; // the combo itself sets item data
+    COrvTypedText m_typed;
 };

@@ -30,6 +30,10 @@ void paintSwatch(CDC* pDC, const CRect& rcSwatch, const LOGBRUSH& brush) {
     if (!fill.CreateBrushIndirect(&brush))
         return;
     SavedDC saved(pDC);
+    // The same piece of a hatch in every row.
+    CPoint origin = rcSwatch.TopLeft();
+    pDC->LPtoDP(&origin);
+    pDC->SetBrushOrg(origin.x, origin.y);
     pDC->SelectObject(&fill);
     pDC->Rectangle(&rcSwatch);
 }

@@ -180,6 +180,8 @@ TEST_F(ColorPicker, TheTipNamesTheColor) {
     EXPECT_TRUE(waitUntil([&] { return tipText() == "粉红"; })) << tipText();
     pressKey(VK_LEFT);
     EXPECT_TRUE(waitUntil([&] { return tipText() == "蓝绿"; })) << tipText();
+    typeText(wideText("紫红"));
+    EXPECT_TRUE(waitUntil([&] { return tipText() == "紫红色"; })) << tipText();
     pressKey(VK_END);
     EXPECT_TRUE(waitUntil([&] { return tipText().empty(); })) << "that row says its name itself";
 }

@@ -120,6 +120,11 @@ TEST_F(RecordCombo, TypingSearchesTheNames) {
         typeText(wideText("蓝绿"));
         EXPECT_TRUE(waitUntil([&] { return combo.GetCurSel() == 3; })) << id;
         EXPECT_EQ(2, combo.changes) << "first to 蓝色, then on";
+        CString text;
+        combo.GetWindowText(text);
+        EXPECT_STREQ("蓝绿", text);
+        char cut[4];
+        EXPECT_EQ(2, combo.GetWindowText(cut, 4)) << "never half a character";
         pressKey(VK_HOME);
         EXPECT_TRUE(waitUntil([&] { return combo.GetCurSel() == 0; })) << id;
         dialog.settle();
