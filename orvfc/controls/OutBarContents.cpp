@@ -44,7 +44,7 @@ int CGfxOutBarCtrl::AddRow(const OUTBAR_INFO& info, bool bChild) {
     folder->name = info.strText;
     folder->data = info.dwData;
     folder->holdsChild = bChild;
-    folder->child = info.pChild->GetSafeHwnd();
+    folder->child = info.pChild ? info.pChild->m_hWnd : NULL;
     std::copy(std::begin(m_pFolders->images), std::end(m_pFolders->images), folder->images);
     m_pFolders->rows.push_back(std::move(folder));
     const int nFolder = GetFolderCount() - 1;

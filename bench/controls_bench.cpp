@@ -1,0 +1,91 @@
+// The outlook bar with many items against the same bar with few.
+
+#include <orvfc/ORVFC.h>
+
+#include "harness.h"
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int few = 100, many = 10000;
+
+// A window 150 by 400 with one folder, scrolled to its middle.
+struct Bar {
+    CWnd parent;
+    CGfxOutBarCtrl bar;
+    CDC dc;
+    CBitmap bitmap;
+
+    explicit Bar(int items) {
+        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 150, 400, NULL, NULL);
+        bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 150, 400), &parent, 1,
+                   OUTBAR_DEFAULT_FLAGS & ~OUTBAR_ANIMATE);
+        bar.AddFolder("文件夹");
+        insert(bar, 0, items);
+        bar.ScrollItems(items / 2);
+        CClientDC screen(&bar);
+        dc.CreateCompatibleDC(&screen);
+        bitmap.CreateCompatibleBitmap(&screen, 150, 400);
+        dc.SelectObject(&bitmap);
+    }
+
+    static void insert(CGfxOutBarCtrl& bar, int folder, int items) {
+        for (int i = 0; i < items; ++i)
+            bar.InsertItem(folder, -1, "一项", -1, static_cast<DWORD_PTR>(i));
+    }
+
+    void paint(int times) {
+        while (times--)
+            bar.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
+    }
+    void hit(int times) {
+        int index = 0;
+        for (int i = 0; i < times; ++i)
+            orv::bench::keep(bar.HitTestEx(CPoint(75, 30 + i % 370), index) + index);
+    }
+    void hover(int times) {
+        for (int i = 0; i < times; ++i)
+            bar.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(75, 30 + i % 370));
+    }
+};
+
+// Windows that are filled anew: all items in one of them, or a tenth in each of ten.
+using Bars = std::vector<std::unique_ptr<Bar>>;
+void fill(const Bars& bars, int times) {
+    while (times--) {
+        for (const auto& one : bars) {
+            one->bar.RemoveAllFolder();
+            one->bar.AddFolder("文件夹");
+            Bar::insert(one->bar, 0, many / static_cast<int>(bars.size()));
+        }
+    }
+}
+
+std::shared_ptr<Bars> makeBars(int count) {
+    auto bars = std::make_shared<Bars>();
+    while (count--)
+        bars->push_back(std::make_unique<Bar>(0));
+    return bars;
+}
+
+const orv::bench::Rows barRows([](orv::bench::Suite& suite) {
+    const auto small = std::make_shared<Bar>(few), large = std::make_shared<Bar>(many);
+    const struct {
+        const char* name;
+        void (Bar::*work)(int);
+    } rows[] = {{"outlook bar painted, 10,000 items / 100 items", &Bar::paint},
+                {"outlook bar hit test, 10,000 items / 100 items", &Bar::hit},
+                {"outlook bar hover, 10,000 items / 100 items", &Bar::hover}};
+    for (const auto& row : rows) {
+        const auto work = row.work;
+        suite.add({"controls", row.name, 1.1, [large, work](int times) { ((*large).*work)(times); },
+                   [small, work](int times) { ((*small).*work)(times); }});
+    }
+    suite.add({"controls", "10,000 items put into one folder / 1,000 into each of ten", 1.2,
+               [one = makeBars(1)](int times) { fill(*one, times); },
+               [ten = makeBars(10)](int times) { fill(*ten, times); }, 11});
+});
+
+} // namespace
