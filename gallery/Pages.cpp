@@ -6,6 +6,7 @@ std::span<const Page> pages() {
     static const Page all[] = {
         {"线型", createLinePage},
         {"选择控件", createPickerPage},
+        {"文本属性", createTextPropertyPage},
     };
     return all;
 }

@@ -18,5 +18,6 @@ std::span<const Page> pages();
 
 CWnd* createLinePage(CWnd& parent, UINT id);
 CWnd* createPickerPage(CWnd& parent, UINT id);
+CWnd* createTextPropertyPage(CWnd& parent, UINT id);
 
 } // namespace gallery

@@ -2,6 +2,7 @@
 // controls.
 
 #include "PickerPage.h"
+#include "ScreenCopy.h"
 #include "Sheets.h"
 
 namespace gallery {
@@ -11,33 +12,6 @@ const CPoint pageAt(48, 120);
 const CSize pageSize(730, 420);
 constexpr int tilesTop = 600;
 constexpr int tileWidth = 240;
-
-void paintAll() {
-    MSG msg;
-    while (::PeekMessageW(&msg, NULL, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&msg);
-        ::DispatchMessageW(&msg);
-    }
-}
-
-// What the screen shows in the rectangle. A window that has just come up may take a moment.
-void copyScreen(CDC& dc, CPoint to, const CRect& from) {
-    paintAll();
-    ::GdiFlush();
-    CWindowDC screen(NULL);
-    dc.BitBlt(to.x, to.y, from.Width(), from.Height(), &screen, from.left, from.top, SRCCOPY);
-}
-
-CRect withList(CComboBox& combo) {
-    CRect field, list, both;
-    combo.GetWindowRect(&field);
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    combo.GetComboBoxInfo(&info);
-    ::GetWindowRect(info.hwndList, &list);
-    both.UnionRect(&field, &list);
-    return both;
-}
 
 void drawTile(CDC& dc, int number, const char* caption, const CRect& from) {
     const CPoint at(48 + number * tileWidth, tilesTop);

@@ -8,6 +8,7 @@ std::span<const Sheet> sheets() {
         {"bitmaps", 1280, 1500, drawBitmapSheet, writeBitmapSamples},
         {"time-scales", 1280, 1300, drawTimeScaleSheet},
         {"pickers", 1280, 970, drawPickerSheet},
+        {"text-page", 1280, 1300, drawTextPropertySheet},
         {"about", 1280, 760, drawAboutSheet},
     };
     return all;

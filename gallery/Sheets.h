@@ -23,6 +23,7 @@ void drawLineSheet(CDC& dc);
 void drawTimeScaleSheet(CDC& dc);
 void drawAboutSheet(CDC& dc);
 void drawPickerSheet(CDC& dc);
+void drawTextPropertySheet(CDC& dc);
 void drawBitmapSheet(CDC& dc);
 bool writeBitmapSamples(const CString& folder);
 

@@ -40,6 +40,7 @@
 #include <orvfc/services/OrvRegistry.h>
 #include <orvfc/services/SysInfo.h>
 #include <orvfc/text/FontAppFile.h>
+#include <orvfc/text/OrvFCDrawTextPropPage.h>
 
 // Messages by which pickers and controls notify their parents: registered under their own names when the
 // library is loaded, so that a host finds them with RegisterWindowMessage as well.

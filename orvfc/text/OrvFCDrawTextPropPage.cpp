@@ -1,0 +1,396 @@
+#include "OrvFCDrawTextPropPage.h"
+
+#include <orvfc/ORVFC.h>
+
+#include "FaceName.h"
+#include "TextPageUnits.h"
+
+IMPLEMENT_DYNCREATE(COrvFCDrawTextPropPage, CPropertyPage)
+
+BEGIN_MESSAGE_MAP(COrvFCDrawTextPropPage, CPropertyPage)
+ON_WM_CLOSE()
+ON_CBN_SELCHANGE(IDC_ORV_FACE, &COrvFCDrawTextPropPage::OnSelchangeComboFontName)
+ON_CBN_EDITCHANGE(IDC_ORV_FACE, &COrvFCDrawTextPropPage::OnEditchangeComboFontName)
+ON_CBN_SELCHANGE(IDC_ORV_SIZE, &COrvFCDrawTextPropPage::OnSelchangeComboFontSize)
+ON_CBN_EDITCHANGE(IDC_ORV_SIZE, &COrvFCDrawTextPropPage::OnEditchangeComboFontSize)
+ON_CBN_SELCHANGE(IDC_ORV_SLOPE, &COrvFCDrawTextPropPage::OnSelchangeComboFontAslope)
+ON_CBN_EDITCHANGE(IDC_ORV_SLOPE, &COrvFCDrawTextPropPage::OnEditchangeComboFontAslope)
+ON_CBN_SELCHANGE(IDC_ORV_COLOR, &COrvFCDrawTextPropPage::OnSelchangeComboFontColor)
+ON_CBN_SELCHANGE(IDC_ORV_ROW_ALIGN, &COrvFCDrawTextPropPage::OnSelchangeComboRowAlign)
+ON_CBN_SELCHANGE(IDC_ORV_COLUMN_ALIGN, &COrvFCDrawTextPropPage::OnSelchangeComboColAlign)
+ON_CBN_SELCHANGE(IDC_ORV_CHAR_SPACE, &COrvFCDrawTextPropPage::OnSelchangeComboCharSpace)
+ON_CBN_SELCHANGE(IDC_ORV_ROW_SPACE, &COrvFCDrawTextPropPage::OnSelchangeComboRowSpace)
+ON_BN_CLICKED(IDC_ORV_UNDERLINE, &COrvFCDrawTextPropPage::OnButtonFontUnderline)
+ON_BN_CLICKED(IDC_ORV_BOLD, &COrvFCDrawTextPropPage::OnButtonFontBold)
+ON_BN_CLICKED(IDC_ORV_ITALIC, &COrvFCDrawTextPropPage::OnButtonFontItalic)
+ON_BN_CLICKED(IDC_ORV_AUTO_BOUND, &COrvFCDrawTextPropPage::OnCheckAutoCacu)
+ON_BN_CLICKED(IDC_ORV_LINE_FEED, &COrvFCDrawTextPropPage::OnCheckFontAutoEnter)
+ON_BN_CLICKED(IDC_ORV_SHADE, &COrvFCDrawTextPropPage::OnCheckFontBorderShade)
+ON_BN_CLICKED(IDC_ORV_BORDER, &COrvFCDrawTextPropPage::OnCheckFontBorder)
+ON_BN_CLICKED(IDC_ORV_CLIP, &COrvFCDrawTextPropPage::OnCheckFontClip)
+ON_BN_CLICKED(IDC_ORV_FONT_LINE, &COrvFCDrawTextPropPage::OnCheckFontLine)
+END_MESSAGE_MAP()
+
+namespace {
+
+// What each shape button edits; the numbers follow the order of the table of shapes.
+constexpr UINT kItalicShape = 1, kUnderlineShape = 2, kBoldShape = 3;
+
+// A shape button that is pushed in says 0.
+int isOn(const CFontShapeButton& button) {
+    return button.GetPushState() == 0;
+}
+
+void showOn(CFontShapeButton& button, int on) {
+    button.SetPushState(on ? 0 : 1, TRUE);
+}
+
+template <class T, class STORE>
+void takeDifference(const T& shown, const T& now, STORE store) {
+    if (now != shown)
+        store(now);
+}
+
+constexpr UINT kFaceListWidth = 200, kAlignListWidth = 80; // pixels
+const int kAlignments[] = {0, 1, 2, 3, 5, 6, 7};
+const double kSpacings[] = {3.5, 4.26, 5.55, 7.5}; // points
+
+struct EnabledControl {
+    DWORD bit;
+    int id;
+};
+
+const EnabledControl kEnabledControls[] = {
+    {ORVTEXT_FACE, IDC_ORV_FACE},
+    {ORVTEXT_SHAPE, IDC_ORV_UNDERLINE},
+    {ORVTEXT_SHAPE, IDC_ORV_BOLD},
+    {ORVTEXT_SHAPE, IDC_ORV_ITALIC},
+    {ORVTEXT_COLOR, IDC_ORV_COLOR},
+    {ORVTEXT_SIZE, IDC_ORV_SIZE},
+    {ORVTEXT_SLOPE, IDC_ORV_SLOPE},
+    {ORVTEXT_ROW_ALIGN, IDC_ORV_ROW_ALIGN},
+    {ORVTEXT_COLUMN_ALIGN, IDC_ORV_COLUMN_ALIGN},
+    {ORVTEXT_AUTO_BOUND, IDC_ORV_AUTO_BOUND},
+    {ORVTEXT_BORDER, IDC_ORV_BORDER},
+    {ORVTEXT_CLIP, IDC_ORV_CLIP},
+    {ORVTEXT_ROW_SPACE, IDC_ORV_ROW_SPACE},
+    {ORVTEXT_LINE_FEED, IDC_ORV_LINE_FEED},
+    {ORVTEXT_SHADE, IDC_ORV_SHADE},
+    {ORVTEXT_FONT_LINE, IDC_ORV_FONT_LINE},
+    {ORVTEXT_CHAR_SPACE, IDC_ORV_CHAR_SPACE},
+    {ORVTEXT_SAMPLE, IDC_ORV_SAMPLE},
+};
+
+int screenResolution() {
+    CClientDC dc(NULL);
+    return dc.GetDeviceCaps(LOGPIXELSY);
+}
+
+// The size in points that the font's height was made for, or the points of the height as it is.
+double sizeShown(COrvFont& font, int dpi) {
+    const int size = font.GetFontSize();
+    if (COrvFont::ConvertHeightFromSize(size) == font.GetFontHeight())
+        return size;
+    return orv::pointsFromPixels(font.GetFontHeight() < 0 ? -font.GetFontHeight() : font.GetFontHeight(),
+                                 dpi);
+}
+
+} // namespace
+
+COrvFCDrawTextPropPage::COrvFCDrawTextPropPage() : CPropertyPage(IDD_ORV_TEXT_PAGE), m_dwEnable(ORVTEXT_ALL) {
+    // The template names the control's class: it has to be there before the page's window.
+    AfxInitRichEdit2();
+}
+
+COrvFCDrawTextPropPage::~COrvFCDrawTextPropPage() = default;
+
+void COrvFCDrawTextPropPage::ExchangeData(COrvDrawText* p, int save) {
+    if (p == NULL)
+        return;
+    if (save) {
+        *p = m_DrawText;
+        return;
+    }
+    m_DrawText = *p;
+    if (m_hWnd != NULL)
+        UpdateData(FALSE);
+}
+
+int COrvFCDrawTextPropPage::ExchangeData(int save) {
+    return m_hWnd != NULL && UpdateData(save != 0);
+}
+
+// --- opening
+
+BOOL COrvFCDrawTextPropPage::SubclassControls() {
+    const struct {
+        CWnd& control;
+        UINT id;
+    } controls[] = {
+        {m_FontNameCmb, IDC_ORV_FACE},        {m_FontColorCmb, IDC_ORV_COLOR},
+        {m_RowAlignCmb, IDC_ORV_ROW_ALIGN},   {m_ColAlignCmb, IDC_ORV_COLUMN_ALIGN},
+        {m_FontAslopeCmb, IDC_ORV_SLOPE},     {m_FontSizeCmb, IDC_ORV_SIZE},
+        {m_CharSpaceCmb, IDC_ORV_CHAR_SPACE}, {m_RowSpaceCmb, IDC_ORV_ROW_SPACE},
+        {m_UnderlineBtn, IDC_ORV_UNDERLINE},  {m_BoldBtn, IDC_ORV_BOLD},
+        {m_ItalicBtn, IDC_ORV_ITALIC},        {m_SampleEdit, IDC_ORV_SAMPLE},
+    };
+    BOOL all = TRUE;
+    for (const auto& row : controls)
+        all &= row.control.SubclassDlgItem(row.id, this);
+    return all;
+}
+
+void COrvFCDrawTextPropPage::FillControls() {
+    m_UnderlineBtn.SetFontShape(kUnderlineShape, FALSE);
+    m_BoldBtn.SetFontShape(kBoldShape, FALSE);
+    m_ItalicBtn.SetFontShape(kItalicShape, FALSE);
+    m_FontNameCmb.Initialize();
+    // The fields are narrow: their lists may be wider.
+    m_FontNameCmb.SetDroppedWidth(kFaceListWidth);
+    m_RowAlignCmb.SetDroppedWidth(kAlignListWidth);
+    m_ColAlignCmb.SetDroppedWidth(kAlignListWidth);
+    CColorSet colors;
+    m_FontColorCmb.AddItem(&colors);
+    for (const int flag : kAlignments) {
+        m_RowAlignCmb.AddItem(flag);
+        m_ColAlignCmb.AddItem(flag);
+    }
+    for (const double spacing : kSpacings) {
+        m_CharSpaceCmb.AddItem(spacing);
+        m_RowSpaceCmb.AddItem(spacing);
+    }
+    m_FontSizeCmb.InitSize();
+    m_FontSizeCmb.SetInit();
+    m_FontAslopeCmb.Init();
+}
+
+void COrvFCDrawTextPropPage::EnableControls() {
+    for (const EnabledControl& row : kEnabledControls)
+        ::EnableWindow(::GetDlgItem(m_hWnd, row.id), (m_dwEnable & row.bit) != 0);
+}
+
+BOOL COrvFCDrawTextPropPage::OnInitDialog() {
+    if (SubclassControls())
+        FillControls();
+    const BOOL result = CPropertyPage::OnInitDialog(); // exchanges the data into the controls
+    EnableControls();
+    InvalidText();
+    return result;
+}
+
+// --- between the controls and the copy
+
+void COrvFCDrawTextPropPage::DoDataExchange(CDataExchange* pDX) {
+    CPropertyPage::DoDataExchange(pDX);
+    if (m_SampleEdit.m_hWnd == NULL)
+        return; // not open, or a template without the controls
+    if (pDX->m_bSaveAndValidate) {
+        TakeControls();
+    } else {
+        ShowText();
+        InvalidText();
+    }
+}
+
+void COrvFCDrawTextPropPage::ShowText() {
+    COrvFont& font = *m_DrawText.LGetOrvFont();
+    const int dpi = screenResolution();
+    m_FontNameCmb.SetCurrentFontName(font.GetFontName());
+    m_FontSizeCmb.SetCurrentSize(sizeShown(font, dpi));
+    m_FontAslopeCmb.SetCurrentAngle(orv::degreesFromRadians(m_DrawText.LGetFPRect().GetAngle()));
+    m_FontColorCmb.SetCurrentColor(m_DrawText.LGetTextColor());
+    m_RowAlignCmb.SetCurrentAlignType(m_DrawText.LGetRowAlign());
+    m_ColAlignCmb.SetCurrentAlignType(m_DrawText.LGetColAlign());
+    m_RowSpaceCmb.SetCurrentDist(orv::pointsFromPixels(m_DrawText.LGetRowDist(), dpi));
+    m_CharSpaceCmb.SetCurrentDist(orv::pointsFromPixels(m_DrawText.LGetCharDist(), dpi));
+    showOn(m_UnderlineBtn, font.GetFontUnderline());
+    showOn(m_BoldBtn, font.GetFontBold());
+    showOn(m_ItalicBtn, font.GetFontItalic());
+    CheckDlgButton(IDC_ORV_AUTO_BOUND, m_DrawText.LGetAutoCacuBound() != 0);
+    CheckDlgButton(IDC_ORV_BORDER, m_DrawText.LGetDrawBorder() != 0);
+    CheckDlgButton(IDC_ORV_CLIP, m_DrawText.LGetAutoClip() != 0);
+    CheckDlgButton(IDC_ORV_LINE_FEED, m_DrawText.LGetAutoLinefeed() != 0);
+    CheckDlgButton(IDC_ORV_SHADE, m_DrawText.LGetDrawShade() != 0);
+    CheckDlgButton(IDC_ORV_FONT_LINE, m_DrawText.LGetDrawFontLine() != 0);
+    const CString content = m_DrawText.GetShowContent();
+    m_SampleEdit.SetWindowText(content.IsEmpty() ? CString("显示内容") : content);
+    m_shown = ReadControls();
+}
+
+COrvFCDrawTextPropPage::Values COrvFCDrawTextPropPage::ReadControls() {
+    Values now;
+    now.strFace = m_FontNameCmb.GetCurrentFontName();
+    now.dSize = m_FontSizeCmb.GetCurrentSize();
+    now.dSlope = m_FontAslopeCmb.GetCurrentAngle();
+    now.dRowSpace = m_RowSpaceCmb.GetCurrentDist();
+    now.dCharSpace = m_CharSpaceCmb.GetCurrentDist();
+    now.crText = m_FontColorCmb.GetCurrentColor();
+    now.nRowAlign = m_RowAlignCmb.GetCurrentAlignType();
+    now.nColAlign = m_ColAlignCmb.GetCurrentAlignType();
+    now.bUnderline = isOn(m_UnderlineBtn);
+    now.bBold = isOn(m_BoldBtn);
+    now.bItalic = isOn(m_ItalicBtn);
+    now.bAutoBound = IsDlgButtonChecked(IDC_ORV_AUTO_BOUND) != 0;
+    now.bBorder = IsDlgButtonChecked(IDC_ORV_BORDER) != 0;
+    now.bClip = IsDlgButtonChecked(IDC_ORV_CLIP) != 0;
+    now.bLineFeed = IsDlgButtonChecked(IDC_ORV_LINE_FEED) != 0;
+    now.bShade = IsDlgButtonChecked(IDC_ORV_SHADE) != 0;
+    now.bFontLine = IsDlgButtonChecked(IDC_ORV_FONT_LINE) != 0;
+    return now;
+}
+
+void COrvFCDrawTextPropPage::TakeFont(const Values& now) {
+    COrvFont& font = *m_DrawText.LGetOrvFont();
+    if (!now.strFace.IsEmpty())
+        takeDifference(m_shown.strFace, now.strFace,
+                       [&](const CString& face) { font.SetFontName(face, TRUE); });
+    takeDifference(m_shown.dSize, now.dSize,
+                   [&](double size) { font.SetFontSize(orv::wholePoints(size), TRUE); });
+    takeDifference(m_shown.bUnderline, now.bUnderline, [&](int on) { font.SetFontUnderline(on, TRUE); });
+    takeDifference(m_shown.bBold, now.bBold, [&](int on) { font.SetFontBold(on, TRUE); });
+    takeDifference(m_shown.bItalic, now.bItalic, [&](int on) { font.SetFontItalic(on, TRUE); });
+}
+
+void COrvFCDrawTextPropPage::TakeControls() {
+    const Values now = ReadControls();
+    const int dpi = screenResolution();
+    COrvDrawText& text = m_DrawText;
+    TakeFont(now);
+    takeDifference(m_shown.dSlope, now.dSlope, [&](double degrees) {
+        CFPRect rect = text.LGetFPRect();
+        rect.SetAngle(orv::radiansFromDegrees(degrees));
+        text.LSetFPRect(rect);
+    });
+    takeDifference(m_shown.crText, now.crText, [&](COLORREF cr) { text.LSetTextColor(cr); });
+    takeDifference(m_shown.nRowAlign, now.nRowAlign, [&](UINT flag) { text.LSetRowAlign(flag); });
+    takeDifference(m_shown.nColAlign, now.nColAlign, [&](UINT flag) { text.LSetColAlign(flag); });
+    takeDifference(m_shown.dRowSpace, now.dRowSpace,
+                   [&](double points) { text.LSetRowDist(orv::pixelsFromPoints(points, dpi)); });
+    takeDifference(m_shown.dCharSpace, now.dCharSpace,
+                   [&](double points) { text.LSetCharDist(orv::pixelsFromPoints(points, dpi)); });
+    takeDifference(m_shown.bAutoBound, now.bAutoBound, [&](BOOL on) { text.LSetAutoCacuBound(on); });
+    takeDifference(m_shown.bBorder, now.bBorder, [&](BOOL on) { text.LSetDrawBorder(on); });
+    takeDifference(m_shown.bClip, now.bClip, [&](BOOL on) { text.LSetAutoClip(on); });
+    takeDifference(m_shown.bLineFeed, now.bLineFeed, [&](BOOL on) { text.LSetAutoLinefeed(on); });
+    takeDifference(m_shown.bShade, now.bShade, [&](BOOL on) { text.LSetDrawShade(on); });
+    takeDifference(m_shown.bFontLine, now.bFontLine, [&](BOOL on) { text.LSetDrawFontLine(on); });
+    m_shown = now;
+}
+
+// --- the sample
+
+int COrvFCDrawTextPropPage::InvalidText() {
+    ASSERT(m_SampleEdit.m_hWnd != NULL);
+    if (m_SampleEdit.m_hWnd == NULL)
+        return FALSE;
+    CHARFORMATA format = {};
+    static_assert(sizeof(format) == 60);
+    format.cbSize = sizeof(format);
+    format.dwMask = 0xE000000F; // bold, italic, underline, strike-out, face, size, colour
+    if (isOn(m_UnderlineBtn))
+        format.dwEffects |= CFE_UNDERLINE;
+    if (isOn(m_ItalicBtn))
+        format.dwEffects |= CFE_ITALIC;
+    if (isOn(m_BoldBtn))
+        format.dwEffects |= CFE_BOLD;
+    format.yHeight = orv::twipsFromPoints(orv::wholePoints(m_FontSizeCmb.GetCurrentSize()));
+    format.crTextColor = m_FontColorCmb.GetCurrentColor();
+    orv::copyFaceName(format.szFaceName, static_cast<LPCTSTR>(m_FontNameCmb.GetCurrentFontName()));
+    m_SampleEdit.SetSel(0, 99999999);
+    m_SampleEdit.SetSelectionCharFormat(format);
+    m_SampleEdit.SetDefaultCharFormat(format);
+    return TRUE;
+}
+
+// --- messages
+
+BOOL COrvFCDrawTextPropPage::IsCommandOfPicker(LPARAM lParam) const {
+    const HWND hWnd = reinterpret_cast<HWND>(lParam);
+    return hWnd != NULL && (hWnd == m_FontNameCmb.m_hWnd || hWnd == m_FontSizeCmb.m_hWnd);
+}
+
+BOOL COrvFCDrawTextPropPage::PreTranslateMessage(MSG* pMsg) {
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_RETURN) {
+        char name[8] = "";
+        ::GetClassNameA(pMsg->hwnd, name, sizeof name);
+        if (::lstrcmpiA(name, "edit") == 0) {
+            m_FontSizeCmb.TakeTypedText();
+            m_FontAslopeCmb.TakeTypedText();
+            Changed();
+            return TRUE;
+        }
+    }
+    if (pMsg->message == WM_COMMAND) {
+        const UINT id = LOWORD(pMsg->wParam);
+        if (id < 2 || id == 5)
+            Changed();
+        if ((pMsg->wParam == 0 && pMsg->lParam == -1) || (id == 1 && IsCommandOfPicker(pMsg->lParam)))
+            return TRUE;
+    }
+    if (pMsg->message == WM_LINE_COLOR_CMB_SELCHANGE)
+        Changed();
+    return CPropertyPage::PreTranslateMessage(pMsg);
+}
+
+void COrvFCDrawTextPropPage::OnClose() {
+    UpdateData(TRUE);
+    CPropertyPage::OnClose();
+}
+
+// A control was changed: the copy follows it, and so does the sample. The sheet's Apply button comes alive
+// only for a change that counts.
+void COrvFCDrawTextPropPage::Changed() {
+    if (m_SampleEdit.m_hWnd == NULL)
+        return;
+    const Values before = m_shown;
+    UpdateData(TRUE);
+    InvalidText();
+    if (DYNAMIC_DOWNCAST(CPropertySheet, GetParent()) != NULL && !(before == m_shown))
+        SetModified(TRUE);
+}
+
+// The face is taken when it is chosen or its field is left, not letter by letter.
+void COrvFCDrawTextPropPage::OnEditchangeComboFontName() {}
+
+void COrvFCDrawTextPropPage::OnButtonFontBold() {
+    Changed();
+    m_SampleEdit.Invalidate();
+}
+
+#define ORV_REFRESHING(handler)                                                                              \
+    void COrvFCDrawTextPropPage::handler() {                                                                 \
+        Changed();                                                                                           \
+    }
+
+ORV_REFRESHING(OnSelchangeComboFontName)
+ORV_REFRESHING(OnSelchangeComboFontSize)
+ORV_REFRESHING(OnEditchangeComboFontSize)
+ORV_REFRESHING(OnSelchangeComboFontAslope)
+ORV_REFRESHING(OnEditchangeComboFontAslope)
+ORV_REFRESHING(OnSelchangeComboFontColor)
+ORV_REFRESHING(OnSelchangeComboRowAlign)
+ORV_REFRESHING(OnSelchangeComboColAlign)
+ORV_REFRESHING(OnSelchangeComboCharSpace)
+ORV_REFRESHING(OnSelchangeComboRowSpace)
+ORV_REFRESHING(OnButtonFontUnderline)
+ORV_REFRESHING(OnButtonFontItalic)
+ORV_REFRESHING(OnCheckAutoCacu)
+ORV_REFRESHING(OnCheckFontAutoEnter)
+ORV_REFRESHING(OnCheckFontBorderShade)
+ORV_REFRESHING(OnCheckFontBorder)
+ORV_REFRESHING(OnCheckFontClip)
+ORV_REFRESHING(OnCheckFontLine)
+
+// --- diagnostics
+
+void COrvFCDrawTextPropPage::AssertValid() const {
+    CPropertyPage::AssertValid();
+}
+
+void COrvFCDrawTextPropPage::Dump(CDumpContext& dc) const {
+    CPropertyPage::Dump(dc);
+    dc << "m_dwEnable = " << m_dwEnable << "\n";
+    dc << "shown: face = " << m_shown.strFace << ", size = " << m_shown.dSize
+       << ", slope = " << m_shown.dSlope << ", color = " << m_shown.crText << "\n";
+    m_DrawText.Dump(dc);
+}
