@@ -5,22 +5,6 @@
 #include "NameSearch.h"
 #include "RowPaint.h"
 
-namespace {
-
-class Flag {
-public:
-    explicit Flag(BOOL& bFlag) : m_bFlag(bFlag), m_bBefore(bFlag) { m_bFlag = TRUE; }
-    ~Flag() { m_bFlag = m_bBefore; }
-    Flag(const Flag&) = delete;
-    Flag& operator=(const Flag&) = delete;
-
-private:
-    BOOL& m_bFlag;
-    BOOL m_bBefore;
-};
-
-} // namespace
-
 COrvCmbRecord::~COrvCmbRecord() = default;
 
 void COrvCmbRecord::Dump(CDumpContext& dc) const {
@@ -36,7 +20,7 @@ ON_CONTROL_REFLECT_EX(CBN_SELCHANGE, &COrvRecordCombo::OnReflectSelchange)
 END_MESSAGE_MAP()
 
 COrvRecordCombo::COrvRecordCombo(CWnd* pMessageWnd, int nRowHeight)
-    : m_pMessageWnd(pMessageWnd), m_nRowHeight(nRowHeight), m_bFilling(FALSE) {}
+    : m_pMessageWnd(pMessageWnd), m_nRowHeight(nRowHeight) {}
 
 // A window that outlives its object would keep the records for ever.
 COrvRecordCombo::~COrvRecordCombo() {
@@ -91,15 +75,14 @@ int COrvRecordCombo::InsertRecord(int nIndex, COrvCmbRecord* pRecord) {
     // Only owner-drawn combos say when an item goes.
     ASSERT(m_hWnd && OwnsItems());
     int nItem = CB_ERR;
-    const int nSelected = m_hWnd ? GetCurSel() : -1;
+    const int nSelected = m_hWnd && nIndex >= 0 ? GetCurSel() : -1;
     if (m_hWnd && OwnsItems() && nIndex >= -1) {
-        const Flag filling(m_bFilling);
         if (HasStrings()) {
             nItem = InsertString(nIndex, pRecord ? pRecord->GetName() : CString());
-            if (nItem >= 0)
-                SetItemDataPtr(nItem, pRecord);
+            SetRecord(nItem, pRecord);
         } else {
-            nItem = InsertString(nIndex, reinterpret_cast<LPCTSTR>(pRecord));
+            nItem = static_cast<int>(DefWindowProc(CB_INSERTSTRING, static_cast<WPARAM>(nIndex),
+                                                   reinterpret_cast<LPARAM>(pRecord)));
         }
     }
     if (nItem < 0)
@@ -109,11 +92,16 @@ int COrvRecordCombo::InsertRecord(int nIndex, COrvCmbRecord* pRecord) {
     return nItem;
 }
 
+// Past WindowProc, which keeps others from doing this.
+void COrvRecordCombo::SetRecord(int nIndex, COrvCmbRecord* pRecord) {
+    if (nIndex >= 0)
+        DefWindowProc(CB_SETITEMDATA, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(pRecord));
+}
+
 COrvCmbRecord* COrvRecordCombo::TakeRecord(int nIndex) {
     COrvCmbRecord* pRecord = GetRecord(nIndex);
-    const Flag filling(m_bFilling);
     if (pRecord)
-        SetItemDataPtr(nIndex, NULL);
+        SetRecord(nIndex, NULL);
     if (m_hWnd)
         DeleteString(static_cast<UINT>(nIndex));
     return pRecord;
@@ -260,14 +248,12 @@ LRESULT COrvRecordCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
         break;
     case CB_SETITEMDATA:
         // Somebody else's pointer would be deleted as a record.
-        if (!m_bFilling)
-            return CB_ERR;
-        break;
+        return CB_ERR;
     case CB_ADDSTRING:
     case CB_INSERTSTRING:
     case CB_DIR:
         // Without strings the text itself would be the item's data.
-        if (!m_bFilling && !HasStrings())
+        if (!HasStrings())
             return CB_ERR;
         break;
     default:

@@ -120,6 +120,7 @@ protected:
 
 private:
     void SetHeights();
+    void SetRecord(int nIndex, COrvCmbRecord* pRecord);
     BOOL OwnsItems() const;
     BOOL HasStrings() const;
     void SelectTyped();
@@ -127,6 +128,5 @@ private:
 
     CWnd* m_pMessageWnd;
     int m_nRowHeight;
-    BOOL m_bFilling; // the combo itself sets item data
     COrvTypedText m_typed;
 };
