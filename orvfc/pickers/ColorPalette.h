@@ -42,8 +42,8 @@ private:
     void close();
 
     CColorPicker& m_picker;
+    bool m_bOwn = false;
     std::vector<ColorSetStruct> m_rows; // the colours; behind them, when there is one, the user's own
-    bool m_bOwn;
     PaletteGrid m_grid;
     int m_nHot = -1;
     CPoint m_ptMouse; // on the screen: opening under the resting mouse is no movement
