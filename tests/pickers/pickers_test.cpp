@@ -4,6 +4,10 @@
 
 namespace orv::test {
 
+BEGIN_MESSAGE_MAP(CPickerDlg, CDialog)
+ON_CONTROL_RANGE(CBN_SELCHANGE, 1, 0x7FFF, &CPickerDlg::OnComboChange)
+END_MESSAGE_MAP()
+
 bool CPickerDlg::open() {
     if (!Create(IDD_PICKERS))
         return false;
@@ -33,8 +37,6 @@ LRESULT CPickerDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         if (::GetClipboardFormatNameA(message, name, sizeof name) && strncmp(name, "WM_", 3) == 0)
             told.push_back(std::string(name) + " " + std::to_string(wParam) + " " + std::to_string(lParam));
     }
-    if (message == WM_COMMAND && HIWORD(wParam) == CBN_SELCHANGE)
-        told.push_back("CBN_SELCHANGE " + std::to_string(LOWORD(wParam)));
     return CDialog::WindowProc(message, wParam, lParam);
 }
 

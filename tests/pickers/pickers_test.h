@@ -34,6 +34,9 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnOK() override {}
     void OnCancel() override {}
+    // The host's own handler.
+    afx_msg void OnComboChange(UINT nID) { told.push_back("CBN_SELCHANGE " + std::to_string(nID)); }
+    DECLARE_MESSAGE_MAP()
 };
 
 // Waits for it and lets its key messages be processed.
