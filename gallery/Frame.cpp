@@ -1,5 +1,6 @@
 #include "Frame.h"
 
+#include "BarIcons.h"
 #include "Pages.h"
 #include "Tasks.h"
 
@@ -9,9 +10,10 @@
 namespace gallery {
 namespace {
 
-constexpr int listWidth = 160;
-constexpr UINT listId = 100;
+constexpr int barWidth = 160;
+constexpr UINT barId = 100;
 constexpr UINT firstPageId = 200;
+constexpr UINT changeViewId = 300;
 
 } // namespace
 
@@ -20,7 +22,9 @@ ON_WM_CREATE()
 ON_WM_SETFOCUS()
 ON_WM_ERASEBKGND()
 ON_WM_GETMINMAXINFO()
-ON_LBN_SELCHANGE(listId, &Frame::OnSelchange)
+ON_WM_CONTEXTMENU()
+ON_REGISTERED_MESSAGE(WM_GFX_OUTBAR_LBUTTON_DOWN, &Frame::OnClicked)
+ON_COMMAND(changeViewId, &Frame::OnChangeView)
 END_MESSAGE_MAP()
 
 BOOL Frame::make() {
@@ -32,18 +36,30 @@ int Frame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     }
     m_windows.resize(pages().size());
-    m_font.CreatePointFont(110, "SimSun");
-    if (!m_list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
-                       CRect(0, 0, 0, 0), this, listId)) {
+    constexpr DWORD flags =
+        OUTBAR_DEFAULT_FLAGS & ~(OUTBAR_REMOVE_FOLDERS | OUTBAR_REMOVE_ITEMS | OUTBAR_ADD_ENTRIES);
+    if (!m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, barId, flags)) {
         return -1;
     }
-    m_list.SetFont(&m_font);
-    for (const Page& page : pages()) {
-        m_list.AddString(page.title);
-    }
-    m_list.SetCurSel(0);
+    m_bar.SetNotifyWnd(this);
+    fillBar();
     choose(0);
     return 0;
+}
+
+void Frame::fillBar() {
+    makeBarIcons(m_largeIcons, 32);
+    makeBarIcons(m_smallIcons, 16);
+    m_bar.SetImageList(&m_largeIcons, 0);
+    m_bar.SetImageList(&m_smallIcons, 1);
+    DWORD_PTR number = 0;
+    for (const Page& page : pages()) {
+        int folder = m_bar.GetFolderText(page.folder);
+        if (folder < 0) {
+            folder = m_bar.AddFolder(page.folder);
+        }
+        m_bar.InsertItem(folder, -1, page.title, folder % barIcons, number++);
+    }
 }
 
 void Frame::choose(int page) {
@@ -66,15 +82,14 @@ void Frame::choose(int page) {
 }
 
 void Frame::RecalcLayout(BOOL) {
-    if (m_list.m_hWnd == NULL) {
+    if (m_bar.m_hWnd == NULL) {
         return;
     }
     CRect client;
     GetClientRect(&client);
-    m_list.MoveWindow(0, 0, listWidth - 1, client.bottom); // one pixel stays for the line between
+    m_bar.MoveWindow(0, 0, barWidth - 1, client.bottom); // one pixel stays for the line between
     if (CWnd* page = chosen()) {
-        page->MoveWindow(listWidth, 0, std::max(0, static_cast<int>(client.right) - listWidth),
-                         client.bottom);
+        page->MoveWindow(barWidth, 0, std::max(0, static_cast<int>(client.right) - barWidth), client.bottom);
     }
 }
 
@@ -82,13 +97,13 @@ BOOL Frame::PreTranslateMessage(MSG* pMsg) {
     CWnd* page = chosen();
     if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB && page != NULL) {
         // A page with controls of its own keeps the key while it has somewhere to go.
-        const bool inList = GetFocus() == &m_list;
-        if (inList) {
+        const bool inBar = GetFocus() == &m_bar;
+        if (inBar) {
             page->SetFocus();
             return TRUE;
         }
         if (GetFocus() == page) {
-            m_list.SetFocus();
+            m_bar.SetFocus();
             return TRUE;
         }
     }
@@ -96,11 +111,11 @@ BOOL Frame::PreTranslateMessage(MSG* pMsg) {
 }
 
 void Frame::OnSetFocus(CWnd*) {
-    m_list.SetFocus();
+    m_bar.SetFocus();
 }
 
 BOOL Frame::OnEraseBkgnd(CDC* pDC) {
-    // The line between list and page, and where no page is.
+    // The line between bar and page, and where no page is.
     CRect client;
     GetClientRect(&client);
     pDC->FillSolidRect(client, ::GetSysColor(COLOR_3DSHADOW));
@@ -109,12 +124,28 @@ BOOL Frame::OnEraseBkgnd(CDC* pDC) {
 
 void Frame::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {
     CFrameWnd::OnGetMinMaxInfo(lpMMI);
-    lpMMI->ptMinTrackSize.x = 3 * listWidth;
-    lpMMI->ptMinTrackSize.y = listWidth;
+    lpMMI->ptMinTrackSize.x = 3 * barWidth;
+    lpMMI->ptMinTrackSize.y = barWidth;
 }
 
-void Frame::OnSelchange() {
-    choose(m_list.GetCurSel());
+LRESULT Frame::OnClicked(WPARAM, LPARAM) {
+    choose(static_cast<int>(m_bar.GetCurrentItemData()));
+    return 0;
+}
+
+void Frame::OnContextMenu(CWnd* pWnd, CPoint pos) {
+    if (pWnd->GetSafeHwnd() != m_bar.m_hWnd) {
+        CFrameWnd::OnContextMenu(pWnd, pos);
+        return;
+    }
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, changeViewId, m_bar.IsSmallIconView() ? "大图标(&L)" : "小图标(&S)");
+    menu.TrackPopupMenu(TPM_RIGHTBUTTON, pos.x, pos.y, this);
+}
+
+void Frame::OnChangeView() {
+    m_bar.SetSmallIconView(!m_bar.IsSmallIconView());
 }
 
 ExitStatus runWindow() {

@@ -4,7 +4,7 @@ namespace gallery {
 
 std::span<const Page> pages() {
     static const Page all[] = {
-        {"线型", createLinePage},
+        {"线型", createLinePage, "绘图"},
         {"选择控件", createPickerPage},
         {"文本属性", createTextPropertyPage},
     };

@@ -12,6 +12,7 @@ struct Page {
     // Makes the page's window, a hidden child of parent; it deletes itself when it is destroyed. NULL when it
     // cannot be made.
     CWnd* (*create)(CWnd& parent, UINT id);
+    const char* folder = "控件"; // of the bar on the left
 };
 
 std::span<const Page> pages();

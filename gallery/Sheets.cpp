@@ -9,6 +9,7 @@ std::span<const Sheet> sheets() {
         {"time-scales", 1280, 1300, drawTimeScaleSheet},
         {"pickers", 1280, 970, drawPickerSheet},
         {"text-page", 1280, 1300, drawTextPropertySheet},
+        {"outlook-bar", 1280, 1110, drawOutBarSheet},
         {"about", 1280, 760, drawAboutSheet},
     };
     return all;

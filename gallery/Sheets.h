@@ -21,6 +21,7 @@ std::span<const Sheet> sheets();
 
 void drawLineSheet(CDC& dc);
 void drawTimeScaleSheet(CDC& dc);
+void drawOutBarSheet(CDC& dc);
 void drawAboutSheet(CDC& dc);
 void drawPickerSheet(CDC& dc);
 void drawTextPropertySheet(CDC& dc);

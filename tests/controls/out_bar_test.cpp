@@ -188,8 +188,10 @@ TEST_F(OutBar, SizesOfIconsLabelsAndItems) {
         EXPECT_EQ(small, words.cx > 120);
         EXPECT_EQ(small, words.cy == label.cy);
     }
-    // Broken again when the width changes.
     bar.SetSmallIconView(false);
+    bar.SetItemText(5, "没有空格的中文也要分成几行才能全部显示出来的名称");
+    EXPECT_LE(bar.GetItemSize(0, 5, 2).cx, 120);
+    // Broken again when the width changes.
     const int before = bar.GetItemSize(0, 6, 2).cy;
     bar.SetWindowPos(NULL, 0, 0, 60, 300, SWP_NOMOVE);
     EXPECT_GT(bar.GetItemSize(0, 6, 2).cy, before);

@@ -32,9 +32,9 @@ bool hasInk(const std::vector<COLORREF>& colors) {
 TEST(Frame, ShowsThePageAndScrollsIt) {
     DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
     ASSERT_TRUE(gallery.frame());
-    HWND list = ::GetDlgItem(gallery.frame(), 100), page = ::GetDlgItem(gallery.frame(), 200);
-    ASSERT_TRUE(list && page);
-    ASSERT_TRUE(gallery.waitFocus(list));
+    HWND bar = ::GetDlgItem(gallery.frame(), 100), page = ::GetDlgItem(gallery.frame(), 200);
+    ASSERT_TRUE(bar && page);
+    ASSERT_TRUE(gallery.waitFocus(bar));
     EXPECT_TRUE(waitUntil([&] { return ::IsWindowVisible(page); }));
     EXPECT_TRUE(waitUntil([&] { return hasInk(sample(page)); }));
     pressKey(VK_TAB);
@@ -45,8 +45,8 @@ TEST(Frame, ShowsThePageAndScrollsIt) {
     pressKey(VK_HOME);
     EXPECT_TRUE(waitUntil([&] { return sample(page) == top; }));
     pressKey(VK_TAB);
-    ASSERT_TRUE(gallery.waitFocus(list));
-    // The page fills what the list leaves.
+    ASSERT_TRUE(gallery.waitFocus(bar));
+    // The page fills what the bar leaves.
     ::SetWindowPos(gallery.frame(), NULL, 0, 0, 700, 500, SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_TRUE(waitUntil([&] {
         RECT frame, inner;
@@ -54,6 +54,33 @@ TEST(Frame, ShowsThePageAndScrollsIt) {
         ::GetWindowRect(page, &inner);
         ::MapWindowPoints(NULL, gallery.frame(), reinterpret_cast<POINT*>(&inner), 2);
         return inner.right == frame.right && inner.bottom == frame.bottom && inner.left == 160;
+    }));
+    pressKey(VK_MENU, VK_F4);
+    EXPECT_EQ(0, gallery.waitExit());
+}
+
+TEST(Frame, TheBarChoosesThePage) {
+    DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
+    ASSERT_TRUE(gallery.frame());
+    HWND bar = ::GetDlgItem(gallery.frame(), 100), first = ::GetDlgItem(gallery.frame(), 200);
+    ASSERT_TRUE(gallery.waitFocus(bar));
+    // The second folder's first item.
+    pressKey(VK_END);
+    pressKey(VK_RETURN);
+    pressKey(VK_DOWN);
+    pressKey(VK_RETURN);
+    EXPECT_TRUE(waitUntil([&] {
+        HWND second = ::GetDlgItem(gallery.frame(), 201);
+        return second && ::IsWindowVisible(second) && !::IsWindowVisible(first);
+    }));
+    EXPECT_EQ(bar, gallery.focus());
+    // Back with the mouse: the first header, then the item below it.
+    RECT place;
+    ::GetWindowRect(bar, &place);
+    clickAt(place.left + 80, place.top + 10);
+    EXPECT_TRUE(waitUntil([&] {
+        clickAt(place.left + 80, place.top + 40);
+        return ::IsWindowVisible(first) != FALSE;
     }));
     pressKey(VK_MENU, VK_F4);
     EXPECT_EQ(0, gallery.waitExit());
