@@ -132,7 +132,10 @@ public:
     //   Background, border and shade show the rectangle with that top; then it is as it was. But an empty
     //   text draws nothing and leaves the top moved. Centred blocks lie half the font's height below the
     //   middle. Callers rely on all three.
-    // - The shade is what shows of the rectangle, moved 6 to the right and down, in COLOR_3DDKSHADOW.
+    // - The shade is what shows of the rectangle, moved 6 to the right and down, in COLOR_3DDKSHADOW, and
+    //   lies over the border's right and lower sides.
+    // - Background, border and shade of a rectangle more than a million pixels wide or high are left out, the
+    //   shade also of one of more than a million units.
     // - The line pitch is the font's height, its external leading and the row distance.
     void Draw(CDC* pDC, const CString& strText);
     void Draw(CDC* pDC);

@@ -14,8 +14,8 @@ namespace {
 enum : UINT { kRowCentre = 1, kRowRight = 2, kColCentre = 6, kColBottom = 7 };
 
 constexpr double kPi = 3.1415926;
-// Regions are made row by row: a rectangle further out than this casts no shade.
-constexpr LONG kFarthestShade = 1 << 20;
+// The system fills shapes and makes regions row by row: rectangles larger than this stay without.
+constexpr LONG kLargestShape = 1 << 20;
 
 LONG fit(LONGLONG value) {
     return orv::truncToInt(static_cast<double>(value));
@@ -26,12 +26,23 @@ struct Corners {
         : points{rect.GetSlopeLeftTop(), rect.GetSlopeLeftBottom(), rect.GetSlopeRightBottom(),
                  rect.GetSlopeRightTop()} {}
 
-    bool isNear() const {
+    bool isBounded() const {
+        const CRect box = bounds();
+        return LONGLONG(box.right) - box.left <= kLargestShape &&
+               LONGLONG(box.bottom) - box.top <= kLargestShape;
+    }
+    // On the device as well.
+    bool isBoundedOn(const CDC& dc) const {
+        Corners onDevice(*this);
+        ::LPtoDP(orv::attributeDC(dc), onDevice.points, 4);
+        return onDevice.isBounded();
+    }
+    CRect bounds() const {
+        CRect box(points[0], points[0]);
         for (const POINT& p : points)
-            if (p.x > kFarthestShade || p.x < -kFarthestShade || p.y > kFarthestShade ||
-                p.y < -kFarthestShade)
-                return false;
-        return true;
+            box.SetRect(p.x < box.left ? p.x : box.left, p.y < box.top ? p.y : box.top,
+                        p.x > box.right ? p.x : box.right, p.y > box.bottom ? p.y : box.bottom);
+        return box;
     }
 
     POINT points[4]; // left-top, left-bottom, right-bottom, right-top
@@ -311,22 +322,23 @@ int COrvDrawText::SetDCPath(CDC* pDC) {
 }
 
 void COrvDrawText::FillBackground(CDC& dc) const {
+    const Corners corners(m_rect);
     CBrush brush;
-    if (!brush.CreateSolidBrush(m_fields.crBk))
+    if (!corners.isBoundedOn(dc) || !brush.CreateSolidBrush(m_fields.crBk))
         return;
     const orv::SavedDC saved(dc);
     dc.SelectObject(&brush);
     dc.SelectStockObject(NULL_PEN);
-    dc.Polygon(Corners(m_rect).points, 4);
+    dc.Polygon(corners.points, 4);
 }
 
 void COrvDrawText::DrawBorder(CDC& dc) const {
+    const Corners corners(m_rect);
     CPen pen;
-    if (!pen.CreatePen(PS_SOLID, 1, m_fields.crBorder))
+    if (!corners.isBoundedOn(dc) || !pen.CreatePen(PS_SOLID, 1, m_fields.crBorder))
         return;
     const orv::SavedDC saved(dc);
     dc.SelectObject(&pen);
-    const Corners corners(m_rect);
     dc.BeginPath();
     dc.MoveTo(corners.points[0]);
     for (int i = 1; i <= 4; ++i)
@@ -342,7 +354,7 @@ void COrvDrawText::DrawShade(CDC& dc) const {
         p = {fit(LONGLONG(p.x) + m_fields.nShadeOffset), fit(LONGLONG(p.y) + m_fields.nShadeOffset)};
     CRgn covered, shade;
     CBrush brush;
-    if (!shape.isNear() || !cast.isNear() || !covered.CreatePolygonRgn(shape.points, 4, WINDING) ||
+    if (!shape.isBoundedOn(dc) || !shape.isBounded() || !covered.CreatePolygonRgn(shape.points, 4, WINDING) ||
         !shade.CreatePolygonRgn(cast.points, 4, WINDING) ||
         !brush.CreateSolidBrush(::GetSysColor(COLOR_3DDKSHADOW)))
         return;
