@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/gdi_count.h"
-#include "support/heap_count.h"
-
 using namespace orv::test;
 
 namespace {
@@ -280,21 +277,6 @@ TEST_F(ColorPicker, EndsInEveryOrder) {
         EXPECT_TRUE(::IsWindow(palette));
     }
     EXPECT_FALSE(::IsWindow(palette));
-}
-
-TEST_F(ColorPicker, NothingIsLeftOver) {
-    const auto round = [&] {
-        const HWND palette = open();
-        ::RedrawWindow(palette, NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
-        pressKey(VK_ESCAPE);
-        closed();
-        dialog.settle();
-    };
-    round();
-    const int before = liveGdiHandles();
-    for (int i = 0; i < 5; ++i)
-        round();
-    EXPECT_EQ(before, liveGdiHandles());
 }
 
 } // namespace

@@ -212,37 +212,33 @@ TEST_F(LineCombos, EmptyListsAndNoWindow) {
 // --- choices
 
 TEST_F(LineCombos, EachTellsWithItsOwnMessage) {
-    const auto expectTold = [&](auto& combo, const char* message) {
-        ASSERT_TRUE(focusOn(combo));
+    CColorCmb color;
+    CLineStyleCmb line(NULL);
+    CLineWidthCmb width;
+    CBrushFigureCmb figure;
+    COrvFillTypeCmb fill;
+    const struct {
+        CComboBox& combo;
+        std::function<void()> fill;
+        const char* message;
+    } rows[] = {
+        {color, [&] { color.ResetColors(); }, "WM_LINE_COLOR_CMB_SELCHANGE"},
+        {line, [&] { line.InitGerStyle(); }, "WM_LINE_STYLE_CMB_SELCHANGE"},
+        {width, [&] { width.AddItem(1, "1"); }, "WM_LINE_WIDTH_CMB_SELCHANGE"},
+        {figure, [&] { figure.InitGerStyle(); }, "WM_BRUSH_FIGURE_CMB_SELCHANGE"},
+        {fill, [&] { fill.InitGerFillType(); }, "WM_FILL_TYPE_CMB_SELCHANGE"},
+    };
+    for (const auto& row : rows) {
+        ASSERT_TRUE(row.combo.Create(WS_CHILD | WS_VISIBLE, CRect(10, 130, 200, 230), &dialog, 7));
+        row.fill();
+        ASSERT_TRUE(focusOn(row.combo));
         dialog.settle();
         dialog.told.clear();
         pressKey(VK_DOWN);
         EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 2; }));
-        EXPECT_EQ(std::string("CBN_SELCHANGE 7; ") + message + " 7 0; ", dialog.toldText());
-        combo.DestroyWindow();
-    };
-    const CRect rect(10, 130, 200, 230);
-    constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    CColorCmb color;
-    ASSERT_TRUE(color.Create(style, rect, &dialog, 7));
-    color.ResetColors();
-    expectTold(color, "WM_LINE_COLOR_CMB_SELCHANGE");
-    CLineStyleCmb line(NULL);
-    ASSERT_TRUE(line.Create(style, rect, &dialog, 7));
-    line.InitGerStyle();
-    expectTold(line, "WM_LINE_STYLE_CMB_SELCHANGE");
-    CLineWidthCmb width;
-    ASSERT_TRUE(width.Create(style, rect, &dialog, 7));
-    width.AddItem(1, "1");
-    expectTold(width, "WM_LINE_WIDTH_CMB_SELCHANGE");
-    CBrushFigureCmb figure;
-    ASSERT_TRUE(figure.Create(style, rect, &dialog, 7));
-    figure.InitGerStyle();
-    expectTold(figure, "WM_BRUSH_FIGURE_CMB_SELCHANGE");
-    COrvFillTypeCmb fill;
-    ASSERT_TRUE(fill.Create(style, rect, &dialog, 7));
-    fill.InitGerFillType();
-    expectTold(fill, "WM_FILL_TYPE_CMB_SELCHANGE");
+        EXPECT_EQ(std::string("CBN_SELCHANGE 7; ") + row.message + " 7 0; ", dialog.toldText());
+        row.combo.DestroyWindow();
+    }
 }
 
 // The value dialog over the row 其它....
@@ -382,6 +378,11 @@ TEST_F(LineCombos, NothingIsLeftOver) {
         style.ShowDropDown();
         style.RedrawWindow();
         ::RedrawWindow(listOf(style), NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
+        CColorPicker picker;
+        picker.Create("", WS_CHILD | WS_VISIBLE, CRect(210, 130, 300, 160), &dialog, 8);
+        picker.RedrawWindow();
+        picker.CreatePaletteWindow();
+        ::RedrawWindow(picker.GetPaletteWindow(), NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
         dialog.settle();
     };
     round();
