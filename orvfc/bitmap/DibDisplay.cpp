@@ -36,6 +36,22 @@ void selectPalette(HDC dc, HPALETTE palette) {
     }
 }
 
+// Beyond the system's coordinates lies nothing.
+POINT moved(CPoint point, CSize by) {
+    const auto sum = [](LONG a, LONG b) {
+        return LONG(std::clamp<LONGLONG>(LONGLONG(a) + b, INT_MIN, INT_MAX));
+    };
+    return {sum(point.x, by.cx), sum(point.y, by.cy)};
+}
+
+// The system draws mirrored pictures a pixel further right or down than their rectangle.
+void moveMirrored(HDC dc, CPoint origin, CSize size) {
+    POINT corners[2] = {origin, moved(origin, size)};
+    ::LPtoDP(dc, corners, 2);
+    ::OffsetViewportOrgEx(dc, corners[1].x < corners[0].x ? -1 : 0, corners[1].y < corners[0].y ? -1 : 0,
+                          NULL);
+}
+
 bool isDone(int lines) {
     return lines != 0 && lines != int(GDI_ERROR);
 }
@@ -175,6 +191,7 @@ BOOL COrvDib::Draw(CDC* pDC, CPoint origin, CSize size) {
     selectPalette(dc, m_hPal);
     if (::GetStretchBltMode(dc) != HALFTONE)
         ::SetStretchBltMode(dc, COLORONCOLOR);
+    moveMirrored(dc, origin, size);
     return isDone(::StretchDIBits(dc, origin.x, origin.y, size.cx, size.cy, 0, 0, plain.layout.width,
                                   plain.layout.height, plain.rows.bits, plain.info.get(), DIB_RGB_COLORS,
                                   SRCCOPY));
@@ -185,7 +202,7 @@ BOOL COrvDib::Draw(CDC* pDC, CPoint origin, CSize size, double angle) {
     const orv::PlainRows plain(*this);
     if (dc == NULL || !plain.isGood() || !std::isfinite(angle))
         return FALSE;
-    POINT edges[3] = {origin, origin + CSize(size.cx, 0), origin + CSize(0, size.cy)};
+    POINT edges[3] = {origin, moved(origin, CSize(size.cx, 0)), moved(origin, CSize(0, size.cy))};
     ::LPtoDP(dc, edges, 3);
     const orv::DibVector corner = {double(edges[0].x), double(edges[0].y)};
     const auto edge = [&](int i) {
@@ -225,8 +242,10 @@ HBITMAP COrvDib::CreateSection(CDC* pDC) {
         return NULL;
     m_pBits = static_cast<BYTE*>(bits);
     m_nBitsOwner = ownerNobody;
-    // The section holds the rows and nothing behind them, whatever the header's size field says.
+    // The section holds the rows and nothing behind them; a size field that promised more would be a lie.
     m_dwImageBytes = layout.rowsBytes;
+    if (m_pInfoHeader->biSizeImage > layout.rowsBytes)
+        m_pInfoHeader->biSizeImage = layout.rowsBytes;
     return m_hSection;
 }
 

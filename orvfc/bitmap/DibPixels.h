@@ -8,6 +8,11 @@
 
 namespace orv {
 
+constexpr bool isDepth(int bitCount) {
+    constexpr ULONGLONG depths = 1ULL << 1 | 1ULL << 4 | 1ULL << 8 | 1ULL << 16 | 1ULL << 24 | 1ULL << 32;
+    return bitCount >= 0 && bitCount <= 32 && (depths >> bitCount & 1) != 0;
+}
+
 // Value of pixel x of a row: the index or the packed colour, the leftmost pixel of a byte in its highest
 // bits.
 inline DWORD getPixel(const BYTE* row, int x, int bitCount) {

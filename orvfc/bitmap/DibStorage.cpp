@@ -177,22 +177,22 @@ BOOL COrvDib::Write(CFile* pFile) const {
 // The bitmap goes past the archive's buffer, straight through its file.
 void COrvDib::Serialize(CArchive& ar) {
     double dRadian = m_dRadian;
-    if (ar.IsStoring()) {
+    if (!ar.IsStoring()) {
+        Empty();
+        ar >> dRadian;
+    } else {
         if (m_pBits == NULL)
             AfxThrowArchiveException(CArchiveException::genericException, ar.m_strFileName);
         ar << dRadian;
-    } else {
-        ar >> dRadian;
     }
     ar.Flush();
     CFile* pFile = ar.GetFile();
-    TRACE1("COrvDib::Serialize -- pos = %d\n", pFile->GetPosition());
+    TRACE1("COrvDib::Serialize -- pos = %d\n", int(pFile->GetPosition()));
     if (ar.IsStoring()) {
         StoreTo(pFile);
     } else {
-        Empty();
         LoadFrom(pFile);
         m_dRadian = dRadian;
     }
-    TRACE1("COrvDib::Serialize -- pos = %d\n", pFile->GetPosition());
+    TRACE1("COrvDib::Serialize -- pos = %d\n", int(pFile->GetPosition()));
 }

@@ -184,6 +184,8 @@ BOOL COrvDib::Compress(CDC* pDC, int compress) {
     packed.m_hMemBlock = block;
     packed.m_nHeaderOwner = ownerGlobal;
     packed.m_dRadian = m_dRadian;
+    // The host may have selected the palette.
+    std::swap(packed.m_hPal, m_hPal);
     TRACE1("Compress: new palette size = %d\n", packed.m_nColorTableEntries);
     TRACE1("dib successfully created - height = %d\n", packed.GetDimensions().cy);
     Swap(packed);

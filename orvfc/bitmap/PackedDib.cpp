@@ -50,6 +50,26 @@ bool fillBlock(HGLOBAL handle, HDC dc, HBITMAP bitmap, const orv::DibInfo& info,
     return done == layout.height;
 }
 
+// Whether the bitmap's pixels are numbers of colours that lie elsewhere: a device bitmap's of that depth,
+// where the device has no palette into which GetDIBits would look.
+bool lacksColors(HDC dc, HBITMAP bitmap, int bitCount) {
+    DIBSECTION facts;
+    return ::GetObjectA(bitmap, sizeof(facts), &facts) == sizeof(facts.dsBm) &&
+           facts.dsBm.bmPlanes * facts.dsBm.bmBitsPixel == bitCount && (bitCount == 4 || bitCount == 8) &&
+           (::GetDeviceCaps(dc, RASTERCAPS) & RC_PALETTE) == 0;
+}
+
+void enterColors(HGLOBAL handle, HPALETTE palette, int bitCount) {
+    const Block block(handle);
+    if (block.bytes == NULL)
+        return;
+    PALETTEENTRY entries[orv::kMaxTableEntries];
+    const UINT count = ::GetPaletteEntries(palette, 0, 1u << bitCount, entries);
+    RGBQUAD* colors = reinterpret_cast<BITMAPINFO*>(block.bytes)->bmiColors;
+    for (UINT i = 0; i < count; ++i)
+        colors[i] = {entries[i].peBlue, entries[i].peGreen, entries[i].peRed, 0};
+}
+
 BOOL writeBlock(const char* path, const BYTE* bytes, const orv::DibLayout& layout) {
     CFile file;
     if (!file.Open(path, CFile::modeCreate | CFile::modeWrite | CFile::shareExclusive))
@@ -106,12 +126,16 @@ HGLOBAL DDBtoDIB(CBitmap& bitmap, DWORD compression, CPalette* pPalette) {
     else if (compression != BI_RGB && compression != BI_BITFIELDS)
         return NULL;
     const orv::MemoryDc memory;
+    const HPALETTE palette = pPalette != NULL ? HPALETTE(pPalette->m_hObject) : NULL;
     // The palette is given back by the device context's end.
-    if (pPalette != NULL && pPalette->m_hObject != NULL) {
-        ::SelectPalette(memory.dc, *pPalette, FALSE);
+    if (palette != NULL) {
+        ::SelectPalette(memory.dc, palette, FALSE);
         ::RealizePalette(memory.dc);
     }
-    return bitCount != 0 ? orv::packBitmap(memory.dc, bitmap, bitCount, compression) : NULL;
+    const HGLOBAL packed = bitCount != 0 ? orv::packBitmap(memory.dc, bitmap, bitCount, compression) : NULL;
+    if (packed != NULL && palette != NULL && lacksColors(memory.dc, bitmap, bitCount))
+        enterColors(packed, palette, bitCount);
+    return packed;
 }
 
 BOOL WriteDib(const char* path, void* packedDib) {

@@ -192,10 +192,11 @@ DWORD COrvDib::GetFileLength() const {
     return m_pInfoHeader != NULL ? orv::kFileHeaderBytes + GetSizeHeader() + m_dwImageBytes : 0;
 }
 
-// The row of a pixel; NULL outside the picture.
+// The row of a pixel; NULL outside the picture. A host may have changed the header since it was checked.
 BYTE* COrvDib::RowOf(int x, int y) const {
     const BITMAPINFOHEADER* header = m_pInfoHeader;
-    if (m_pBits == NULL || header->biCompression == BI_RLE4 || header->biCompression == BI_RLE8)
+    if (m_pBits == NULL || header->biCompression == BI_RLE4 || header->biCompression == BI_RLE8 ||
+        !orv::isDepth(header->biBitCount))
         return NULL;
     const LONGLONG height = header->biHeight < 0 ? -LONGLONG(header->biHeight) : header->biHeight;
     if (x < 0 || x >= header->biWidth || y < 0 || y >= height)

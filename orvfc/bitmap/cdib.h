@@ -155,7 +155,7 @@ private:
 // COrvDib::AttachMemory); NULL on failure. BI_RGB and BI_BITFIELDS keep the bitmap's depth (other than 1, 4,
 // 8, 16, 24, 32: the next one above); 16 bits of BI_RGB are five of each colour. BI_RLE4 and BI_RLE8 ask the
 // driver for 4 or 8 bits so compressed; BI_BITFIELDS is for 16 and 32 bits only. pPalette gives device
-// bitmaps of up to 8 bits their colours (NULL: the default palette); DIB sections have their own. The bitmap
+// bitmaps of 4 and 8 bits their colours (NULL: the default palette); DIB sections have their own. The bitmap
 // must not be selected into a device context.
 ORVFC_API HGLOBAL DDBtoDIB(CBitmap& bitmap, DWORD compression, CPalette* pPalette);
 

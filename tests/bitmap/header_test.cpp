@@ -51,37 +51,6 @@ TEST(BitmapHeader, CutAtEveryByteOfTheHeaders) {
     }
 }
 
-struct MetricsRow {
-    LONG width, height;
-    WORD bitCount;
-    DWORD colorsUsed, stride, rows;
-    int entries;
-};
-
-// Widths on both sides of the row padding at each depth.
-const MetricsRow metricsRows[] = {
-    {1, 1, 1, 0, 4, 4, 2},    {32, 2, 1, 0, 4, 8, 2},        {33, 2, 1, 0, 8, 16, 2},
-    {8, 3, 4, 0, 4, 12, 16},  {9, 3, 4, 0, 8, 24, 16},       {4, 1, 8, 0, 4, 4, 256},
-    {5, 1, 8, 5, 8, 8, 5},    {2, 5, 16, 0, 4, 20, 0},       {3, 5, 16, 0, 8, 40, 0},
-    {3, 1, 24, 0, 12, 12, 0}, {4, -2, 24, 256, 12, 24, 256}, {5, 1, 24, 0, 16, 16, 0},
-    {1, 1, 32, 0, 4, 4, 0},   {7, -3, 32, 0, 28, 84, 0},     {100, 65535, 1, 0, 16, 1048560, 2},
-};
-
-TEST(BitmapHeader, Metrics) {
-    for (const MetricsRow& row : metricsRows) {
-        SCOPED_TRACE(testing::Message() << row.width << " x " << row.height << " x " << row.bitCount);
-        BITMAPINFOHEADER header = {40, row.width, row.height,     1, row.bitCount, BI_RGB, 0,
-                                   0,  0,         row.colorsUsed, 0};
-        DibLayout layout;
-        ASSERT_EQ(DibFault::none, readDibHeader(&header, ~0ULL, layout));
-        EXPECT_EQ(row.stride, layout.stride);
-        EXPECT_EQ(row.rows, layout.imageBytes);
-        EXPECT_EQ(row.entries, layout.tableEntries);
-        EXPECT_EQ(14u + 40 + 4 * row.entries, DWORD(dibFileHeader(layout).bfOffBits));
-        EXPECT_EQ(row.height < 0, layout.topDown);
-    }
-}
-
 // The largest that a 32-bit size can tell, and one row more.
 TEST(BitmapHeader, LargestSize) {
     BITMAPINFOHEADER header = {40, 0x3FFFFFE0, 1, 1, 32, BI_RGB, 0, 0, 0, 0, 0};

@@ -174,6 +174,24 @@ TEST(BitmapPacked, KeepsEveryPixelAtEveryDepth) {
     }
 }
 
+TEST(BitmapPacked, APaletteGivesDeviceBitmapsTheirColours) {
+    for (int bitCount : {4, 8}) {
+        COrvDib table, dib;
+        ASSERT_TRUE(readBytes(table, makeFile({.bitCount = WORD(bitCount), .colorsUsed = 5})));
+        CPalette palette;
+        palette.Attach(table.m_hPal);
+        table.m_hPal = NULL;
+        CBitmap bitmap;
+        const BYTE rows[] = {BYTE(bitCount == 4 ? 0x34 : 3), 4};
+        ASSERT_TRUE(bitmap.CreateBitmap(2, 1, 1, bitCount, rows));
+        const HGLOBAL block = DDBtoDIB(bitmap, BI_RGB, &palette);
+        ASSERT_TRUE(dib.AttachMemory(::GlobalLock(block), TRUE, block));
+        for (int i : {3, 4})
+            EXPECT_EQ(RGB(tableColor(i).rgbRed, tableColor(i).rgbGreen, tableColor(i).rgbBlue),
+                      colorOf(dib, i - 3, 0));
+    }
+}
+
 TEST(BitmapPacked, DeviceBitmapsAndRefusals) {
     CBitmap mono, none;
     const BYTE rows[] = {0xA0, 0, 0x50, 0};

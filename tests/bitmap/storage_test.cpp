@@ -68,9 +68,13 @@ TEST(BitmapFile, RoundTrips) {
         memcpy(&expected[10], &rowsAt, 4);
         EXPECT_EQ(expected, written(dib));
         EXPECT_EQ(expected.size(), dib.GetFileLength());
-        COrvDib again;
+        COrvDib again, section;
         ASSERT_TRUE(readBytes(again, expected));
         EXPECT_EQ(expected, written(again));
+        // A section holds plain rows only, and says so.
+        CMemFile memory(const_cast<BYTE*>(file.data()), UINT(file.size()));
+        ASSERT_TRUE(section.ReadSection(&memory, NULL));
+        EXPECT_TRUE(readBytes(again, written(section)));
     }
 }
 
@@ -127,7 +131,11 @@ TEST(BitmapPixelCalls, OutsideThePictureAnswerNothing) {
         EXPECT_FALSE(dib.SetPiexelIndex(place.x, place.y, 0xFF));
     }
     EXPECT_EQ(before, written(dib));
-    // A host that changes the header gets no more rows than there are.
+    // A host that changes the header gets no more rows than there are, and no pixels of other sizes.
+    dib.m_pInfoHeader->biWidth = 11;
+    dib.m_pInfoHeader->biBitCount = 2;
+    EXPECT_FALSE(dib.SetPiexelIndex(10, 0, 3));
+    dib.m_pInfoHeader->biBitCount = 8;
     dib.m_pInfoHeader->biHeight = 1000000;
     EXPECT_EQ(0u, dib.GetPixelIndex(0, 999999));
     EXPECT_FALSE(dib.SetPiexelIndex(0, 999999, 1));
@@ -277,7 +285,7 @@ TEST(BitmapArchive, ThrowsWhenItIsCutAnywhere) {
     for (int cut = 0; cut < length; ++cut) {
         CMemFile part(bytes, UINT(cut));
         CArchive ar(&part, CArchive::load);
-        COrvDib in;
+        COrvDib in(dib);
         bool thrown = false;
         try {
             in.Serialize(ar);
