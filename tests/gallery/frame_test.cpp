@@ -86,4 +86,37 @@ TEST(Frame, TheBarChoosesThePage) {
     EXPECT_EQ(0, gallery.waitExit());
 }
 
+TEST(Frame, ThePickersDriveTheirCanvas) {
+    DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
+    ASSERT_TRUE(gallery.frame());
+    HWND bar = ::GetDlgItem(gallery.frame(), 100);
+    ASSERT_TRUE(gallery.waitFocus(bar));
+    for (const WORD key : {VK_END, VK_RETURN, VK_DOWN, VK_RETURN})
+        pressKey(key);
+    HWND page = NULL;
+    ASSERT_TRUE(waitUntil([&] { return (page = ::GetDlgItem(gallery.frame(), 201)) != NULL; }));
+    EXPECT_TRUE(waitUntil([&] { return ::IsWindowVisible(page) && hasInk(sample(page)); }));
+    pressKey(VK_TAB);
+    ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, 1))) << "the colours";
+    for (const WORD control : {2, 3, 4, 5}) {
+        pressKey(VK_TAB);
+        ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, control)));
+    }
+    const auto before = sample(page);
+    pressKey(VK_HOME); // no filling
+    EXPECT_TRUE(waitUntil([&] { return sample(page) != before; }));
+    for (const WORD control : {6, 7}) {
+        pressKey(VK_TAB);
+        ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, control)));
+    }
+    pressKey(VK_TAB);
+    EXPECT_TRUE(gallery.waitFocus(bar)) << "behind the last control";
+    pressKey(VK_TAB);
+    ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, 1)));
+    pressKey(VK_SHIFT, VK_TAB);
+    EXPECT_TRUE(gallery.waitFocus(bar)) << "before the first one";
+    pressKey(VK_MENU, VK_F4);
+    EXPECT_EQ(0, gallery.waitExit());
+}
+
 } // namespace
