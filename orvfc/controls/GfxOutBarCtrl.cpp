@@ -9,6 +9,7 @@
 IMPLEMENT_DYNCREATE(CGfxOutBarCtrl, CWnd)
 
 BEGIN_MESSAGE_MAP(CGfxOutBarCtrl, CWnd)
+ON_WM_CREATE()
 ON_WM_PAINT()
 ON_WM_ERASEBKGND()
 ON_WM_SIZE()
@@ -78,8 +79,10 @@ void CGfxOutBarCtrl::ModifyFlag(const DWORD& dwRemove, const DWORD& dwAdd, UINT 
     m_dwFlags = (m_dwFlags & ~dwRemove) | dwAdd;
     if (!m_hWnd)
         return;
-    LayoutChanged(); // which invalidates
-    if (redraw != 0)
+    Arrange();
+    if (redraw == 0)
+        Invalidate(FALSE);
+    else
         SetWindowPos(NULL, 0, 0, 0, 0, redraw | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER);
 }
 
@@ -89,6 +92,16 @@ void CGfxOutBarCtrl::SetSmallIconView(bool bSmall) {
 
 void CGfxOutBarCtrl::SetAnimSelHighlight(bool bHighlight) {
     ModifyFlag(OUTBAR_HILIGHT_ITEM, bHighlight ? OUTBAR_HILIGHT_ITEM : 0);
+}
+
+int CGfxOutBarCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    // Folders that came before the window.
+    for (int i = 0; i < GetFolderCount(); ++i)
+        AdoptChild(i);
+    LayoutChanged();
+    return 0;
 }
 
 void CGfxOutBarCtrl::OnSize(UINT nType, int cx, int cy) {

@@ -50,12 +50,15 @@ struct ORVFC_API OUTBAR_INFO {
 // scrolls by one item. A dragged item shows a mark where it would be dropped. Near the upper and lower edge
 // the items scroll; a header under the mouse for half a second opens its folder; a drop on a header appends
 // to its folder. Esc, the right button and removing or inserting rows meanwhile end the drag without a drop.
-// A drop sends no message. Keyboard (the bar is a tab stop): up and down walk headers and items as they
-// stand, Home, End and the page keys go further, Enter opens a folder or clicks an item, F2 renames, Delete
-// removes, Insert adds an item to the open folder, behind the current one, Ctrl+Insert a folder; their names
-// are then typed. Context menu (right button, menu key): the notified window, or else the parent, gets
-// WM_CONTEXTMENU with this window and a screen position which HitTestEx recognises; an item under it has been
-// selected before, without a click message. Position (-1, -1): nothing is current.
+// A drop sends no message.
+//
+// Keyboard (the bar is a tab stop): up and down walk headers and items as they stand, Home, End and the page
+// keys go further, Enter opens a folder or clicks an item, F2 renames, Delete removes, Insert adds an item to
+// the open folder, behind the current one, Ctrl+Insert a folder; their names are then typed.
+//
+// Context menu (right button, menu key): the notified window, or else the parent, gets WM_CONTEXTMENU with
+// this window and a screen position which HitTestEx recognises; an item under it has been selected before,
+// without a click message. Position (-1, -1): nothing is current.
 //
 // Indexes count from 0; items are those of the open folder unless a folder is given. An index that does not
 // exist changes nothing and gives false, -1, 0, NULL or an empty text. Rectangles are in client pixels. Where
@@ -120,7 +123,7 @@ public:
     void SetSmallIconView(bool bSmall);
     // The frame around the item under the mouse (OUTBAR_HILIGHT_ITEM).
     void SetAnimSelHighlight(bool bHighlight);
-    // Milliseconds between two steps of a sliding folder; values outside 0 to 1000 count as these.
+    // Milliseconds between two steps of a sliding folder; values outside 0 to 100 count as these.
     LONG GetAnimationTickCount() const { return m_nAnimationTickCount; }
     void SetAnimationTickCount(LONG nTickCount) { m_nAnimationTickCount = nTickCount; }
     // Gets the click message and the context menu. It stays the host's, who takes it back (NULL) before the
@@ -131,7 +134,7 @@ public:
     // --- folders. The first one that is added opens.
     int AddFolder(const char* name, DWORD_PTR data = 0);
     // child is made a child of this window if it is none; it stays the host's, is shown while its folder is
-    // open and may be destroyed at any time.
+    // open and may be destroyed, or taken to another parent, at any time.
     int AddFolderBar(const char* name, CWnd* child, DWORD_PTR data = 0);
     int AddFolder(const OUTBAR_INFO& info);
     // When the open one goes, the one behind it opens, or else the one before. A child window is hidden.
@@ -226,6 +229,7 @@ protected:
     // The end of renaming: wParam 0 takes the text, lParam is the field's window.
     afx_msg LRESULT OnEndLabelEdit(WPARAM wParam, LPARAM lParam);
 
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
@@ -260,7 +264,9 @@ private:
     orv::OutBarItem* ItemAt(int nItem) const;
     int AddRow(const OUTBAR_INFO& info, bool bChild);
     void OpenRow(int nFolder);
+    void Arrange();
     void ShowChild() const;
+    void AdoptChild(int nFolder) const;
     HWND ChildOf(int nFolder) const;
     void BeforeChange(bool bRows);
     orv::OutBarLayout LayoutOf(int nFolder) const;

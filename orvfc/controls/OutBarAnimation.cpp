@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int steps = 10;
-constexpr LONG longestPause = 1000; // milliseconds
+constexpr LONG longestPause = 100; // milliseconds
 
 // The child window's picture where it stands.
 void printChild(CDC& dc, HWND hChild, const CRect& rect) {

@@ -48,9 +48,7 @@ int CGfxOutBarCtrl::AddRow(const OUTBAR_INFO& info, bool bChild) {
     std::copy(std::begin(m_pFolders->images), std::end(m_pFolders->images), folder->images);
     m_pFolders->rows.push_back(std::move(folder));
     const int nFolder = GetFolderCount() - 1;
-    const HWND hChild = ChildOf(nFolder);
-    if (hChild)
-        ::ShowWindow(hChild, SW_HIDE);
+    AdoptChild(nFolder);
     if (m_nSelFolder < 0)
         OpenRow(nFolder);
     else
@@ -158,14 +156,21 @@ CString CGfxOutBarCtrl::GetFolderName(int folder) const {
     return row ? row->name : CString();
 }
 
-// The window, made a child of the bar; NULL when there is none or it has gone.
+// The handle alone proves nothing: it may have gone to another window since.
 HWND CGfxOutBarCtrl::ChildOf(int nFolder) const {
     const OutBarFolder* row = m_pFolders->folder(nFolder);
     if (!row || !row->child || !::IsWindow(row->child))
         return NULL;
-    if (m_hWnd && ::GetParent(row->child) != m_hWnd)
+    return !m_hWnd || ::GetParent(row->child) == m_hWnd ? row->child : NULL;
+}
+
+void CGfxOutBarCtrl::AdoptChild(int nFolder) const {
+    const OutBarFolder* row = m_pFolders->folder(nFolder);
+    if (!m_hWnd || !row || !::IsWindow(row->child))
+        return;
+    ::ShowWindow(row->child, SW_HIDE);
+    if (::GetParent(row->child) != m_hWnd)
         ::SetParent(row->child, m_hWnd);
-    return row->child;
 }
 
 CWnd* CGfxOutBarCtrl::GetFolderChild(int folder) const {

@@ -172,6 +172,13 @@ int CGfxOutBarCtrl::HitTestEx(const CPoint& point, int& index) const {
 }
 
 void CGfxOutBarCtrl::LayoutChanged() {
+    Arrange();
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+// Scroll position, arrows and child window for what there is now. Nothing is repainted.
+void CGfxOutBarCtrl::Arrange() {
     EndRename(true);
     // No empty room below the last item while there are items above.
     if (m_nFirstItem > 0)
@@ -184,10 +191,7 @@ void CGfxOutBarCtrl::LayoutChanged() {
     m_bDownArrow = !m_rcDownArrow.IsRectEmpty();
     m_bUpPressed = m_bUpPressed && m_bUpArrow;
     m_bDownPressed = m_bDownPressed && m_bDownArrow;
-    if (m_hWnd) {
-        ShowChild();
-        Invalidate(FALSE);
-    }
+    ShowChild();
 }
 
 void CGfxOutBarCtrl::ScrollItems(int nItems) {

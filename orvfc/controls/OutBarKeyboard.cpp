@@ -9,10 +9,8 @@
 #include <algorithm>
 
 UINT CGfxOutBarCtrl::OnGetDlgCode() {
-    // Enter is for the current row, not for the dialog's default button. The message asked about, if any.
-    const MSG* pAsked = reinterpret_cast<const MSG*>(GetCurrentMessage()->lParam);
-    const bool bEnter = pAsked && pAsked->message == WM_KEYDOWN && pAsked->wParam == VK_RETURN;
-    return DLGC_WANTARROWS | (bEnter ? DLGC_WANTMESSAGE : 0);
+    // Enter is for the current row, not for the dialog's default button. wParam is the key asked about.
+    return DLGC_WANTARROWS | (GetCurrentMessage()->wParam == VK_RETURN ? DLGC_WANTMESSAGE : 0);
 }
 
 void CGfxOutBarCtrl::OnSetFocus(CWnd* pOldWnd) {

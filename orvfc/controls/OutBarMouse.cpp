@@ -103,6 +103,7 @@ void CGfxOutBarCtrl::OnLButtonDown(UINT, CPoint point) {
     int nIndex;
     const int nHit = HitTestEx(point, nIndex);
     if (nHit == static_cast<int>(OutBarHit::folder)) {
+        SetCurrentRow({nIndex, -1});
         SetSelFolder(nIndex);
     } else if (nHit == static_cast<int>(OutBarHit::item)) {
         TrackItem(nIndex, point);
@@ -141,9 +142,11 @@ void CGfxOutBarCtrl::SetNotifyWnd(CWnd* pNotifyWnd) {
 }
 
 HWND CGfxOutBarCtrl::NotifiedWindow() const {
+    if (!m_pNotifyWnd)
+        return NULL;
     // Set before it had a window, it is the host's own object.
-    const HWND hWnd = m_hNotifyWnd ? m_hNotifyWnd : m_pNotifyWnd->GetSafeHwnd();
-    return ::IsWindow(hWnd) ? hWnd : NULL;
+    const HWND hWnd = m_hNotifyWnd ? m_hNotifyWnd : m_pNotifyWnd->m_hWnd;
+    return ::IsWindow(hWnd) && hWnd != m_hWnd ? hWnd : NULL;
 }
 
 // --- scrolling

@@ -22,10 +22,16 @@ TEST(OutBarNew, StartsWithItsDefaults) {
     EXPECT_NE(bar.m_hHandCursor, bar.m_hDragCursor);
     EXPECT_EQ(::RegisterWindowMessageA("WM_GFX_OUTBAR_LBUTTON_DOWN"), WM_GFX_OUTBAR_LBUTTON_DOWN);
     // It holds rows before it has a window.
+    CBarHost parent;
+    ASSERT_TRUE(parent.make());
     EXPECT_EQ(0, bar.AddFolder("a"));
+    EXPECT_EQ(1, bar.AddFolderBar("c", &parent.other));
     EXPECT_EQ(0, bar.InsertItem(0, 5, "b"));
     EXPECT_FALSE(bar.StartItemEdit(0));
     EXPECT_EQ(CSize(0, 0), bar.GetItemSize(0, 0, 1));
+    EXPECT_TRUE(bar.Create(WS_CHILD, CRect(0, 0, 9, 9), &parent, 3));
+    EXPECT_EQ(&parent.other, bar.GetFolderChild(1));
+    EXPECT_EQ(bar.m_hWnd, ::GetParent(parent.other.m_hWnd));
     CBarHost host;
     EXPECT_TRUE(host.make(OUTBAR_SMALL_ICONS));
     EXPECT_EQ(1u, host.bar.GetFlag());
@@ -233,6 +239,11 @@ TEST_F(OutBar, ChildWindowsAreShownInTheirFolder) {
     bar.ModifyFlag(0, OUTBAR_ANIMATE);
     bar.SetSelFolder(2);
     EXPECT_TRUE(child.IsWindowVisible());
+    child.SetParent(&host);
+    EXPECT_EQ(NULL, bar.GetFolderChild(2)) << "it has left";
+    bar.SetSelFolder(0);
+    EXPECT_TRUE(child.IsWindowVisible());
+    child.SetParent(&bar);
     child.DestroyWindow();
     EXPECT_EQ(NULL, bar.GetFolderChild(2));
     bar.SetSelFolder(0);
