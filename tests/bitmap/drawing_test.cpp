@@ -100,11 +100,7 @@ TEST(BitmapDrawing, TopDownAndRunsAreTheRightWayUp) {
     const LONG height = -2;
     memcpy(&file[22], &height, 4);
     ASSERT_TRUE(readBytes(down, file));
-    ASSERT_TRUE(readBytes(runs, makeFile({.width = 4,
-                                          .height = 2,
-                                          .compression = BI_RLE8,
-                                          .sizeImage = 10,
-                                          .runs = {4, 9, 0, 0, 1, 3, 3, 5, 0, 1}})));
+    ASSERT_TRUE(readBytes(runs, runsFile()));
     down.Draw(&paper.dc, CPoint(0, 0), CSize(4, 2));
     down.Draw(&turned.dc, CPoint(0, 0), CSize(4, 2), 0);
     runs.Draw(&paper.dc, CPoint(10, 0), CSize(4, 2));
@@ -112,12 +108,9 @@ TEST(BitmapDrawing, TopDownAndRunsAreTheRightWayUp) {
     for (Paper* one : {&paper, &turned}) {
         EXPECT_EQ(pictureColor(depths()[5], 3, 1), one->at(3, 0)); // the file's rows from the top down
         EXPECT_EQ(pictureColor(depths()[5], 3, 0), one->at(3, 1));
-        const auto color = [](int i) {
-            return RGB(tableColor(i).rgbRed, tableColor(i).rgbGreen, tableColor(i).rgbBlue);
-        };
-        EXPECT_EQ(color(3), one->at(10, 0));
-        EXPECT_EQ(color(5), one->at(11, 0));
-        EXPECT_EQ(color(9), one->at(10, 1));
+        EXPECT_EQ(tableEntry(3), one->at(10, 0));
+        EXPECT_EQ(tableEntry(5), one->at(11, 0));
+        EXPECT_EQ(tableEntry(9), one->at(10, 1));
     }
 }
 
@@ -170,8 +163,7 @@ TEST(BitmapPalette, UsedInADeviceContext) {
         dib.UsePalette(&paper.dc, FALSE);
         for (int i = 0; i < colors; ++i) {
             paper.dc.SetPixel(i, 0, PALETTEINDEX(i));
-            const RGBQUAD color = tableColor(i);
-            EXPECT_EQ(RGB(color.rgbRed, color.rgbGreen, color.rgbBlue), paper.at(i, 0)) << i;
+            EXPECT_EQ(tableEntry(i), paper.at(i, 0)) << i;
         }
         ::SelectPalette(paper.dc, static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE)), FALSE);
     }

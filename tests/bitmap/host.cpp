@@ -190,4 +190,21 @@ COLORREF colorOf(const COrvDib& dib, int x, int y) {
     return RGB(fieldValue(value, masks[0]), fieldValue(value, masks[1]), fieldValue(value, masks[2]));
 }
 
+void expectPicture(const COrvDib& dib, const Depth& depth, int width, int height) {
+    ASSERT_EQ(CSize(width, height), dib.GetDimensions());
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            ASSERT_EQ(pictureColor(depth, x, y), colorOf(dib, x, y)) << depth.name << " " << x << ", " << y;
+}
+
+Bytes runsFile() {
+    const Bytes runs = {4, 9, 0, 0, 1, 3, 3, 5, 0, 1};
+    return makeFile({.width = 4, .height = 2, .compression = BI_RLE8, .sizeImage = 10, .runs = runs});
+}
+
+COLORREF tableEntry(int i) {
+    const RGBQUAD color = tableColor(i);
+    return RGB(color.rgbRed, color.rgbGreen, color.rgbBlue);
+}
+
 } // namespace orv::test

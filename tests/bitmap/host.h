@@ -65,5 +65,10 @@ BOOL readBytes(COrvDib& dib, const Bytes& bytes);
 
 // The colour of a pixel as its stored value says; y counts from the top.
 COLORREF colorOf(const COrvDib& dib, int x, int y);
+void expectPicture(const COrvDib& dib, const Depth& depth, int width, int height);
+
+// Run-length rows, 4 x 2: 3 5 5 5 above 9 9 9 9. An entry of the colour table of such made files.
+Bytes runsFile();
+COLORREF tableEntry(int i);
 
 } // namespace orv::test

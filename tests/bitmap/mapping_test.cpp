@@ -126,9 +126,7 @@ TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
         EXPECT_EQ(0.25, dib.GetRadian());
         EXPECT_TRUE(dib.m_pMapView);
         for (COrvDib* one : {&dib, &again}) {
-            for (int y = 0; y < 5; ++y)
-                for (int x = 0; x < 7; ++x)
-                    ASSERT_EQ(pictureColor(depth, x, y), colorOf(*one, x, y)) << x << ", " << y;
+            expectPicture(*one, depth, 7, 5);
             // It works in the file now.
             dib.SetPiexelIndex(0, 0, dib.GetPixelIndex(0, 0));
             dib.Empty();

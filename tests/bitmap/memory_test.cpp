@@ -15,13 +15,6 @@ HGLOBAL globalCopy(const Bytes& file, size_t cut = 0) {
     return block;
 }
 
-void expectPicture(const COrvDib& dib, const Depth& depth, int width, int height) {
-    ASSERT_EQ(CSize(width, height), dib.GetDimensions());
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            ASSERT_EQ(pictureColor(depth, x, y), colorOf(dib, x, y)) << depth.name << " " << x << ", " << y;
-}
-
 TEST(BitmapMemory, BelongsToWhomItIsSaid) {
     const Depth& depth = depths()[2];
     Bytes file = pictureFile(depth, 5, 4);
@@ -133,8 +126,7 @@ TEST(BitmapSection, MadeForAHeaderAndFilledFromAFile) {
 }
 
 TEST(BitmapSection, RunLengthRowsComeOutPlain) {
-    Bytes file = makeFile(
-        {.width = 4, .height = 2, .compression = BI_RLE8, .sizeImage = 8, .runs = {4, 9, 0, 0, 4, 3, 0, 1}});
+    Bytes file = runsFile();
     CMemFile memory(file.data(), UINT(file.size()));
     COrvDib dib;
     ASSERT_TRUE(dib.ReadSection(&memory, NULL));
@@ -187,8 +179,7 @@ TEST(BitmapPacked, APaletteGivesDeviceBitmapsTheirColours) {
         const HGLOBAL block = DDBtoDIB(bitmap, BI_RGB, &palette);
         ASSERT_TRUE(dib.AttachMemory(::GlobalLock(block), TRUE, block));
         for (int i : {3, 4})
-            EXPECT_EQ(RGB(tableColor(i).rgbRed, tableColor(i).rgbGreen, tableColor(i).rgbBlue),
-                      colorOf(dib, i - 3, 0));
+            EXPECT_EQ(tableEntry(i), colorOf(dib, i - 3, 0));
     }
 }
 

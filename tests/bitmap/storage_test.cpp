@@ -85,12 +85,9 @@ TEST(BitmapFile, PixelsOfEverySizeAndDepth) {
             SCOPED_TRACE(testing::Message() << depth.name << ", " << width << " wide");
             COrvDib dib;
             ASSERT_TRUE(readBytes(dib, pictureFile(depth, width, 3)));
-            ASSERT_EQ(CSize(width, 3), dib.GetDimensions());
             EXPECT_EQ(width, dib.m_dWidth);
             EXPECT_EQ(3, dib.m_dHeight);
-            for (int y = 0; y < 3; ++y)
-                for (int x = 0; x < width; ++x)
-                    ASSERT_EQ(pictureColor(depth, x, y), colorOf(dib, x, y)) << x << ", " << y;
+            expectPicture(dib, depth, width, 3);
         }
     }
 }
@@ -148,14 +145,12 @@ TEST(BitmapPixelCalls, OutsideThePictureAnswerNothing) {
 
 TEST(BitmapPixelCalls, RunLengthRowsHaveNoPixelsOfTheirOwn) {
     COrvDib dib;
-    ASSERT_TRUE(readBytes(
-        dib,
-        makeFile({.width = 4, .height = 1, .compression = BI_RLE8, .sizeImage = 4, .runs = {4, 9, 0, 1}})));
+    ASSERT_TRUE(readBytes(dib, runsFile()));
     EXPECT_EQ(0u, dib.GetPixelIndex(1, 0));
     EXPECT_FALSE(dib.SetPiexelIndex(1, 0, 3));
     ASSERT_TRUE(dib.Compress(NULL, FALSE));
     EXPECT_EQ(9u, dib.GetPixelIndex(1, 0));
-    EXPECT_EQ(4u, dib.GetSizeImage());
+    EXPECT_EQ(8u, dib.GetSizeImage());
 }
 
 // Palette entry i is colour table entry i, red first.
@@ -167,9 +162,7 @@ TEST(BitmapPalette, FollowsTheColourTable) {
     PALETTEENTRY entries[6];
     ASSERT_EQ(5u, ::GetPaletteEntries(dib.m_hPal, 0, 6, entries));
     for (int i = 0; i < 5; ++i) {
-        const RGBQUAD color = tableColor(i);
-        EXPECT_EQ(RGB(color.rgbRed, color.rgbGreen, color.rgbBlue),
-                  RGB(entries[i].peRed, entries[i].peGreen, entries[i].peBlue));
+        EXPECT_EQ(tableEntry(i), RGB(entries[i].peRed, entries[i].peGreen, entries[i].peBlue));
         EXPECT_EQ(0, entries[i].peFlags);
     }
     COrvDib plain;

@@ -75,11 +75,7 @@ TEST(BitmapRotation, CornersBecomeWhiteAtEveryDepth) {
 
 TEST(BitmapRotation, RunsAndRefusals) {
     COrvDib runs, empty;
-    ASSERT_TRUE(readBytes(runs, makeFile({.width = 4,
-                                          .height = 2,
-                                          .compression = BI_RLE8,
-                                          .sizeImage = 10,
-                                          .runs = {4, 9, 0, 0, 1, 3, 3, 5, 0, 1}})));
+    ASSERT_TRUE(readBytes(runs, runsFile()));
     const HPALETTE palette = runs.m_hPal;
     EXPECT_FALSE(runs.Rotation(NAN));
     EXPECT_EQ(DWORD(BI_RLE8), runs.m_pInfoHeader->biCompression);
@@ -144,9 +140,7 @@ TEST(BitmapCompression, Refusals) {
         EXPECT_TRUE(dib.Compress(&paper.dc, FALSE));
     }
     COrvDib empty, runs, down;
-    ASSERT_TRUE(readBytes(
-        runs,
-        makeFile({.width = 4, .height = 1, .compression = BI_RLE8, .sizeImage = 4, .runs = {4, 9, 0, 1}})));
+    ASSERT_TRUE(readBytes(runs, runsFile()));
     ASSERT_TRUE(readBytes(down, makeFile({.height = -3})));
     for (COrvDib* dib : {&empty, &runs, &down}) {
         EXPECT_FALSE(dib->Compress(&paper.dc, TRUE));

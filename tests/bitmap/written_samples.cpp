@@ -15,9 +15,9 @@ struct Way {
     int height; // negative: from the top down
 };
 
-const Way ways[] = {{"1", 1, 6},       {"4", 4, 6},        {"8", 8, 6},       {"16", 16, 6},
-                    {"24", 24, 6},     {"32", 32, 6},      {"1-down", 1, -6}, {"4-down", 4, -6},
-                    {"8-down", 8, -6}, {"24-down", 24, -6}};
+const Way ways[] = {{"1", 1, 6},       {"4", 4, 6},         {"8", 8, 6},         {"16", 16, 6},
+                    {"24", 24, 6},     {"32", 32, 6},       {"1-down", 1, -6},   {"4-down", 4, -6},
+                    {"8-down", 8, -6}, {"16-down", 16, -6}, {"24-down", 24, -6}, {"32-down", 32, -6}};
 constexpr int width = 11;
 
 COLORREF colorAt(int bitCount, int x, int y) {
