@@ -180,12 +180,16 @@ TEST_F(Exchange, ControlsAreTakenOverOnceAndTheRestIsTold) {
 
 TEST_F(Exchange, AFixedBufferKeepsWholeCharacters) {
     char buffer[] = "......";
-    for (auto [room, text] : {std::pair{0, "......"}, {1, ""}, {3, "a"}, {4, "a文"}, {6, "a文b"}}) {
+    const struct {
+        int room;
+        const char* text;
+    } rows[] = {{0, "......"}, {1, ""}, {3, "a"}, {4, "a文"}, {6, "a文b"}};
+    for (const auto& row : rows) {
         strcpy(buffer, "......");
         dialog.SetDlgItemText(IDC_EDIT, "a文b");
-        dialog.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, buffer, room); };
+        dialog.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_EDIT, buffer, row.room); };
         EXPECT_TRUE(dialog.UpdateData(TRUE));
-        EXPECT_STREQ(text, buffer) << room;
+        EXPECT_STREQ(row.text, buffer) << row.room;
     }
 }
 
