@@ -121,11 +121,13 @@ TEST_F(ColorPicker, Keys) {
         pressKey(VK_ESCAPE);
         EXPECT_TRUE(closed());
     }
-    pressKey(VK_MENU, VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return picker.GetPaletteWindow() != NULL; }));
+    open();
     pressKey(VK_TAB);
     EXPECT_TRUE(closed());
     EXPECT_TRUE(waitUntil([&] { return ::GetFocus() != picker.m_hWnd; })) << "Tab goes on";
+    ASSERT_TRUE(focusOn(picker));
+    pressKey(VK_MENU, VK_DOWN);
+    EXPECT_TRUE(waitUntil([&] { return picker.GetPaletteWindow() != NULL; }));
 }
 
 TEST_F(ColorPicker, Mouse) {

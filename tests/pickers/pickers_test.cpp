@@ -11,6 +11,8 @@ END_MESSAGE_MAP()
 bool CPickerDlg::open() {
     if (!Create(IDD_PICKERS))
         return false;
+    // An open list follows the mouse that rests on it.
+    moveMouse(1000, 700);
     ShowWindow(SW_SHOW);
     return waitUntil([this] { return ::GetForegroundWindow() == m_hWnd; });
 }
