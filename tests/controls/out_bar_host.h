@@ -15,9 +15,11 @@
 class CCountedBar : public CGfxOutBarCtrl {
 public:
     int ends = 0;
+    int repeats = 0; // of a held arrow's timer
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        repeats += message == WM_TIMER && wParam == 2;
         ends += message == WM_GFX_END_LABEL_EDIT;
         return CGfxOutBarCtrl::WindowProc(message, wParam, lParam);
     }

@@ -100,8 +100,12 @@ TEST_F(OutBarInput, ArrowsScrollOnceAndAgainWhileHeld) {
     Steps()
         .then(press(down))
         .when([&] { return bar.m_nFirstItem >= 4; }, move(down - CPoint(60, 0)))
-        .when([&] { return !bar.m_bDownPressed; }, [&] { rested = bar.m_nFirstItem; })
-        .when([&] { return bar.m_nFirstItem == rested; }, move(down))
+        .when([&] { return !bar.m_bDownPressed; }, [&] { rested = bar.m_nFirstItem, bar.repeats = 0; })
+        .when([&] { return bar.repeats == 3; },
+              [&] {
+                  EXPECT_EQ(rested, bar.m_nFirstItem);
+                  moveMouse(down.x, down.y);
+              })
         .when([&] { return !bar.m_bDownArrow; }, release(down))
         .run(idle);
     int first, last;
@@ -151,6 +155,13 @@ TEST_F(OutBarInput, DragsWithinTheFolder) {
         .when([&] { return bar.m_nLastDragItemDrawType == 0; }, release(above))
         .run(idle);
     EXPECT_STREQ("0 1 2", host.texts());
+    const CPoint between = host.item(1) + CPoint(0, 10);
+    Steps()
+        .then(press(host.item(0)))
+        .when(held, move(between))
+        .when([&] { return bar.m_nLastDragItemDraw == 2; }, release(between))
+        .run(idle);
+    EXPECT_STREQ("1 0 2", host.texts());
     EXPECT_EQ(0, host.clicks);
 }
 

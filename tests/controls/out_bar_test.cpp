@@ -304,6 +304,18 @@ TEST_F(OutBar, ThePictureShowsWhatItHolds) {
     EXPECT_TRUE(bar.SendMessage(WM_ERASEBKGND, 0, 0)) << "nothing is erased first";
 }
 
+TEST_F(OutBar, ArrowsAreDrawnAsTheyAre) {
+    host.fill(20);
+    bar.ScrollItems(1);
+    const auto shown = printed(bar);
+    for (bool* flag : {&bar.m_bUpArrow, &bar.m_bDownArrow, &bar.m_bUpPressed, &bar.m_bDownPressed}) {
+        *flag = !*flag;
+        EXPECT_NE(shown, printed(bar));
+        *flag = !*flag;
+    }
+    EXPECT_EQ(shown, printed(bar));
+}
+
 TEST_F(OutBar, TheHoveredItemHasAFrameWhenTheFlagSaysSo) {
     host.fill(2);
     const auto plain = printed(bar);
