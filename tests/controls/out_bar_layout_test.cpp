@@ -119,6 +119,14 @@ TEST(OutBarLayout, WhatIsInView) {
         EXPECT_EQ(row.below, bar.itemsBelow()) << row.items;
         EXPECT_EQ(row.furthest, bar.furthestFirst()) << row.items;
     }
+    // Eight that fit to the pixel.
+    OutBarScene exact = scene(true, 9);
+    exact.client.bottom = 285;
+    EXPECT_EQ(8, layout(exact).wholeItems());
+    EXPECT_EQ(1, layout(exact).furthestFirst());
+    exact.client.bottom = 284;
+    EXPECT_EQ(7, layout(exact).wholeItems());
+    EXPECT_EQ(2, layout(exact).furthestFirst());
 }
 
 TEST(OutBarLayout, HitsInTheirOrder) {
@@ -244,23 +252,27 @@ TEST(OutBarLayout, AnySizesGiveAnswers) {
     }
 }
 
-// However many items there are, only those in view are asked for their sizes.
+// However many items there are, only those in view are asked for their sizes, be it that a host's spacing
+// pulls them together.
 TEST(OutBarLayout, AsksForWhatIsInView) {
-    for (int items : {100, 1000000}) {
-        OutBarScene what = scene(true, items);
-        what.firstItem = items / 2;
-        int asked = 0;
-        const OutBarLayout bar(what, [&](int) {
-            ++asked;
-            return small;
-        });
-        int index;
-        bar.hit({50, 200}, index);
-        bar.lastVisible();
-        bar.itemsBelow();
-        bar.furthestFirst();
-        bar.dropIndex(200);
-        EXPECT_LT(asked, 60) << items;
+    for (int spacing : {10, -50}) {
+        for (int items : {100, 1000000}) {
+            OutBarScene what = scene(true, items);
+            what.metrics.smallSpacing = spacing;
+            what.firstItem = items / 2;
+            int asked = 0;
+            const OutBarLayout bar(what, [&](int) {
+                ++asked;
+                return small;
+            });
+            int index;
+            bar.hit({50, 190}, index); // a gap: nothing ends the walk early
+            bar.lastVisible();
+            bar.itemsBelow();
+            bar.furthestFirst();
+            bar.dropIndex(200);
+            EXPECT_LT(asked, spacing < 0 ? 1100 : 60) << items;
+        }
     }
 }
 
