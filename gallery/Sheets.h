@@ -20,6 +20,8 @@ struct Sheet {
 std::span<const Sheet> sheets();
 
 void drawLineSheet(CDC& dc);
+void drawStationSheet(CDC& dc);
+void drawTextSheet(CDC& dc);
 void drawTimeScaleSheet(CDC& dc);
 void drawOutBarSheet(CDC& dc);
 void drawAboutSheet(CDC& dc);

@@ -1,5 +1,6 @@
 #include "Sheets.h"
 
+#include "Label.h"
 #include "LineStyles.h"
 
 #include <afxdisp.h>
@@ -72,12 +73,7 @@ constexpr Scale scales[] = {
 
 class TimeScaleSheet {
 public:
-    explicit TimeScaleSheet(CDC& dc) : m_dc(dc) {
-        createFont(m_titleFont, 36);
-        createFont(m_nameFont, 20);
-        createFont(m_textFont, 14);
-        dc.SetBkMode(TRANSPARENT);
-    }
+    explicit TimeScaleSheet(CDC& dc) : m_dc(dc) {}
 
     void draw();
 
@@ -91,17 +87,17 @@ private:
 
     double columnOf(double date) const;
     int xOf(double date) const;
-    void createFont(CFont& font, int height);
-    void text(CFont& font, COLORREF color, int x, int y, const CString& text);
-    CSize extent(CFont& font, const CString& text);
+    void text(Label& label, COLORREF color, int x, int y, const CString& text) {
+        label.draw(m_dc, color, x, y, text);
+    }
     void rule(int x1, int y1, int x2, int y2) {
         m_dc.FillSolidRect(x1, y1, std::max(x2 - x1, 1), std::max(y2 - y1, 1), ruleColor);
     }
 
     CDC& m_dc;
-    CFont m_titleFont;
-    CFont m_nameFont;
-    CFont m_textFont;
+    Label m_title{36};
+    Label m_name{20};
+    Label m_text{14};
     LineStyles m_styles;
     CORVDateFormat m_format;
     int m_top = 128; // of what is drawn next
@@ -112,25 +108,6 @@ private:
     int m_columns = 0;
     int m_columnWidth = 0;
 };
-
-void TimeScaleSheet::createFont(CFont& font, int height) {
-    font.CreateFont(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
-                    CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, "WenQuanYi Zen Hei");
-}
-
-void TimeScaleSheet::text(CFont& font, COLORREF color, int x, int y, const CString& text) {
-    CFont* previous = m_dc.SelectObject(&font);
-    m_dc.SetTextColor(color);
-    m_dc.TextOut(x, y, text);
-    m_dc.SelectObject(previous);
-}
-
-CSize TimeScaleSheet::extent(CFont& font, const CString& text) {
-    CFont* previous = m_dc.SelectObject(&font);
-    const CSize size = m_dc.GetTextExtent(text);
-    m_dc.SelectObject(previous);
-    return size;
-}
 
 // Whole columns before the date, and the part of its own column.
 double TimeScaleSheet::columnOf(double date) const {
@@ -153,10 +130,10 @@ void TimeScaleSheet::scaleRow(const ScaleRow& row, int top, bool finest) {
         const int left = xOf(tick);
         const int right = xOf(next);
         const CString label = CORVDateFormat::GetDateString(row.unit, row.style, tick, m_first, m_behind - 1);
-        const CSize size = extent(m_textFont, label);
+        const CSize size = m_text.extent(label);
         rule(left, top, left, bottom);
         if (size.cx + 2 <= right - left)
-            text(m_textFont, finest ? noteColor : inkColor, left + (right - left - size.cx) / 2,
+            text(m_text, finest ? noteColor : inkColor, left + (right - left - size.cx) / 2,
                  top + (rowHeight - size.cy) / 2, label);
     }
     rule(leftEdge, bottom, xOf(m_behind), bottom);
@@ -184,12 +161,12 @@ void TimeScaleSheet::eventLane() {
         const int x = xOf(date);
         eventMark(x, middle);
         const CString label = CString(event.name) + " " + CORVDateFormat::GetDateString(78, date);
-        const int width = extent(m_textFont, label).cx;
+        const int width = m_text.extent(label).cx;
         const int right = xOf(m_behind);
         const int left = std::max(leftEdge, std::min(x - width / 2, right - width));
         const int below = left < ends[0] + 8 && left >= ends[1];
         ends[below] = left + width;
-        text(m_textFont, eventColor, left, below ? middle + 9 : m_top, label);
+        text(m_text, eventColor, left, below ? middle + 9 : m_top, label);
     }
     m_top += 62;
 }
@@ -209,8 +186,8 @@ void TimeScaleSheet::lane(const Phase& phase) {
     m_styles.draw(m_dc, phase.type, phase.width, phase.color);
     CString label;
     label.Format("%s  %d 天", phase.name, CORVDateFormat::GetDateRangleDays(from, to));
-    const int width = extent(m_textFont, label).cx;
-    text(m_textFont, phase.color, std::clamp(left, leftEdge + 4, xOf(m_behind) - width), m_top, label);
+    const int width = m_text.extent(label).cx;
+    text(m_text, phase.color, std::clamp(left, leftEdge + 4, xOf(m_behind) - width), m_top, label);
     m_top += laneHeight;
 }
 
@@ -231,13 +208,12 @@ void TimeScaleSheet::scale(const Scale& scale) {
     m_first = m_format.GetBeginDate(m_unit, 1, scale.first.date());
     m_behind = CORVDateFormat::GetNextScale(m_unit, 1, scale.last.date());
     m_columns = CORVDateFormat::GetDateRangleCounts(m_unit, 1, m_first, scale.last.date());
-    m_columnWidth =
-        extent(m_textFont, m_format.GetWidthText(finest.unit, finest.style)).cx + 2 * columnPadding;
+    m_columnWidth = m_text.extent(m_format.GetWidthText(finest.unit, finest.style)).cx + 2 * columnPadding;
 
     CString title;
     title.Format("%s: styles %d, %d, %d; %d columns of %d pixels", scale.title, scale.rows[0].style,
                  scale.rows[1].style, finest.style, m_columns, m_columnWidth);
-    text(m_nameFont, inkColor, leftEdge, m_top, title);
+    text(m_name, inkColor, leftEdge, m_top, title);
     m_top += 32;
     m_dc.FillSolidRect(leftEdge, m_top, m_columns * m_columnWidth, rowsOfScale * rowHeight, headColor);
     rule(leftEdge, m_top, xOf(m_behind), m_top);
@@ -251,8 +227,8 @@ void TimeScaleSheet::scale(const Scale& scale) {
 }
 
 void TimeScaleSheet::draw() {
-    text(m_titleFont, inkColor, leftEdge, 34, "时间刻度  Time scales");
-    text(m_textFont, noteColor, leftEdge, 88,
+    text(m_title, inkColor, leftEdge, 34, "时间刻度  Time scales");
+    text(m_text, noteColor, leftEdge, 88,
          "天问一号 2020-2021: one plan under three scales. Columns are as wide as the widest label of their "
          "style.");
     for (const Scale& each : scales)

@@ -349,10 +349,10 @@ TEST_F(Program, TourDrawsEverySheet) {
     const Outcome outcome = run("--tour .");
     EXPECT_EQ(outcome.status, 0u) << outcome.output;
     EXPECT_NE(outcome.output.find("lines.png"), std::string::npos) << outcome.output;
-    EXPECT_EQ(files(), (std::set<std::string>{"about.png", "outlook-bar.png", "text-page.png", "bitmap-1.bmp",
-                                              "bitmap-4.bmp", "bitmap-8.bmp", "bitmap-16.bmp",
-                                              "bitmap-24.bmp", "bitmap-32.bmp", "bitmaps.png", "lines.png",
-                                              "pickers.png", "time-scales.png"}));
+    EXPECT_EQ(files(), (std::set<std::string>{
+                           "about.png", "outlook-bar.png", "text-page.png", "bitmap-1.bmp", "bitmap-4.bmp",
+                           "bitmap-8.bmp", "bitmap-16.bmp", "bitmap-24.bmp", "bitmap-32.bmp", "bitmaps.png",
+                           "lines.png", "pickers.png", "stations.png", "texts.png", "time-scales.png"}));
     EXPECT_EQ(pngSize(read("lines.png")), "1280x1160");
 }
 

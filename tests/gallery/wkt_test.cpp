@@ -1,4 +1,5 @@
 #include "gallery/Wkt.h"
+#include "gallery/WktNames.h"
 
 #include <gtest/gtest.h>
 
@@ -182,6 +183,18 @@ TEST(Wkt, LongRunsOfOneByteEndQuickly) {
         WktError error;
         EXPECT_FALSE(parseWkt(text, lines, error)) << run;
     }
+}
+
+TEST(WktNames, AreTheCommentsBehindPoints) {
+    const std::string_view text =
+        "# POINT(1 2) # none\nPOINT(1.5 -2) # first\r\nPOINT(3 4)\nLINESTRING(1 2,3 4) # no\n"
+        "POINT(5) # no\nPOINT(1 2) # \nPOINT(7 8) # last";
+    std::string seen;
+    for (const gallery::WktName& name : gallery::namedPoints(text))
+        seen += std::to_string(int(name.point.x * 10)) + " " + std::to_string(int(name.point.y)) + " " +
+                std::string(name.name) + ";";
+    EXPECT_EQ(seen, "15 -2 first;70 8 last;");
+    EXPECT_TRUE(gallery::namedPoints("").empty());
 }
 
 } // namespace
