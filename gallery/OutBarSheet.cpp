@@ -96,8 +96,7 @@ const struct {
          bar.InsertItem(1, -1, "按钮", 1);
          bar.StartGroupEdit(2);
      }},
-    {"空间很小",
-     [](CGfxOutBarCtrl& bar) { bar.SetWindowPos(NULL, 0, 0, 110, 150, SWP_NOMOVE | SWP_NOZORDER); }},
+    {"空间很小", [](CGfxOutBarCtrl& bar) { bar.MoveWindow(0, 0, 110, 150); }},
 };
 
 } // namespace
