@@ -9,6 +9,7 @@
 #include <orvfc/bitmap/cdib.h>
 #include <orvfc/controls/GfxGroupEdit.h>
 #include <orvfc/controls/GfxOutBarCtrl.h>
+#include <orvfc/controls/ResizeCtrl.h>
 #include <orvfc/geometry/Extend.h>
 #include <orvfc/geometry/FourPointRect.h>
 #include <orvfc/geometry/ScreenUnits.h>
