@@ -1,4 +1,4 @@
-// The outlook bar with many items against the same bar with few.
+// The outlook bar with many items against the same bar with few; the resize control against a bare batch.
 
 #include <orvfc/ORVFC.h>
 
@@ -69,6 +69,74 @@ std::shared_ptr<Bars> makeBars(int count) {
         bars->push_back(std::make_unique<Bar>(0));
     return bars;
 }
+
+// A window full of children, to be made larger and smaller by turns.
+struct Sizes {
+    static constexpr int children = 200;
+    CWnd parent;
+    std::vector<HWND> windows;
+    bool large = false;
+
+    Sizes() {
+        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 600, 600, NULL, NULL);
+        for (int i = 0; i < children; ++i)
+            windows.push_back(::CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, i % 20 * 30,
+                                                i / 20 * 30, 28, 28, parent.m_hWnd, NULL, NULL, NULL));
+    }
+    int step() {
+        large = !large;
+        const int size = large ? 640 : 600;
+        ::SetWindowPos(parent.m_hWnd, NULL, 0, 0, size, size, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        return large ? 40 : -40;
+    }
+};
+
+struct Resized : Sizes {
+    CResizeCtrl control;
+    Resized() {
+        control.Create(&parent);
+        for (const HWND window : windows)
+            control.Add(window, 50, 25, 25, 50);
+    }
+    void run(int times) {
+        while (times--)
+            step();
+    }
+};
+
+// The same moves, known beforehand.
+struct Batched : Sizes {
+    std::vector<CRect> places;
+    Batched() {
+        for (const HWND window : windows) {
+            CRect rect;
+            ::GetWindowRect(window, &rect);
+            ::MapWindowPoints(NULL, parent.m_hWnd, reinterpret_cast<POINT*>(&rect), 2);
+            places.push_back(rect);
+        }
+    }
+    void run(int times) {
+        while (times--) {
+            const int change = step();
+            HDWP batch = ::BeginDeferWindowPos(children);
+            for (size_t i = 0; i < windows.size(); ++i) {
+                CRect& place = places[i];
+                place.OffsetRect(change / 2, change / 4);
+                place.right += change / 4;
+                place.bottom += change / 2;
+                batch = ::DeferWindowPos(batch, windows[i], NULL, place.left, place.top, place.Width(),
+                                         place.Height(), SWP_NOZORDER);
+            }
+            ::EndDeferWindowPos(batch);
+        }
+    }
+};
+
+const orv::bench::Rows resizeRows([](orv::bench::Suite& suite) {
+    suite.add({"controls", "a size step of 200 children / a bare deferred batch", 1.2,
+               [control = std::make_shared<Resized>()](int times) { control->run(times); },
+               [batch = std::make_shared<Batched>()](int times) { batch->run(times); }});
+});
 
 const orv::bench::Rows barRows([](orv::bench::Suite& suite) {
     const auto small = std::make_shared<Bar>(few), large = std::make_shared<Bar>(many);

@@ -21,7 +21,6 @@ BEGIN_MESSAGE_MAP(Frame, CFrameWnd)
 ON_WM_CREATE()
 ON_WM_SETFOCUS()
 ON_WM_ERASEBKGND()
-ON_WM_GETMINMAXINFO()
 ON_WM_CONTEXTMENU()
 ON_REGISTERED_MESSAGE(WM_GFX_OUTBAR_LBUTTON_DOWN, &Frame::OnClicked)
 ON_COMMAND(changeViewId, &Frame::OnChangeView)
@@ -38,9 +37,14 @@ int Frame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     m_windows.resize(pages().size());
     constexpr DWORD flags =
         OUTBAR_DEFAULT_FLAGS & ~(OUTBAR_REMOVE_FOLDERS | OUTBAR_REMOVE_ITEMS | OUTBAR_ADD_ENTRIES);
-    if (!m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, barId, flags)) {
+    CRect client;
+    GetClientRect(&client);
+    client.right = barWidth - 1; // one pixel stays for the line between
+    if (!m_bar.Create(WS_CHILD | WS_VISIBLE, client, this, barId, flags) || !m_resize.Create(this)) {
         return -1;
     }
+    m_resize.Add(&m_bar, 0, 0, 0, 100);
+    m_resize.SetMinimumTrackingSize(CSize(3 * barWidth, barWidth));
     m_bar.SetNotifyWnd(this);
     fillBar();
     choose(0);
@@ -69,10 +73,12 @@ void Frame::choose(int page) {
     CWnd*& window = m_windows[static_cast<size_t>(page)];
     if (window == NULL) {
         window = pages()[static_cast<size_t>(page)].create(*this, firstPageId + static_cast<UINT>(page));
+        if (window != NULL) {
+            place(*window);
+        }
     }
     CWnd* before = chosen();
     m_chosen = page;
-    RecalcLayout();
     if (window != NULL) {
         window->ShowWindow(SW_SHOW);
     }
@@ -81,16 +87,12 @@ void Frame::choose(int page) {
     }
 }
 
-void Frame::RecalcLayout(BOOL) {
-    if (m_bar.m_hWnd == NULL) {
-        return;
-    }
+// From here on the resize control keeps the page beside the bar.
+void Frame::place(CWnd& page) {
     CRect client;
     GetClientRect(&client);
-    m_bar.MoveWindow(0, 0, barWidth - 1, client.bottom); // one pixel stays for the line between
-    if (CWnd* page = chosen()) {
-        page->MoveWindow(barWidth, 0, std::max(0, static_cast<int>(client.right) - barWidth), client.bottom);
-    }
+    page.MoveWindow(barWidth, 0, std::max(0, static_cast<int>(client.right) - barWidth), client.bottom);
+    m_resize.Add(&page, 0, 0, 100, 100);
 }
 
 BOOL Frame::PreTranslateMessage(MSG* pMsg) {
@@ -120,12 +122,6 @@ BOOL Frame::OnEraseBkgnd(CDC* pDC) {
     GetClientRect(&client);
     pDC->FillSolidRect(client, ::GetSysColor(COLOR_3DSHADOW));
     return TRUE;
-}
-
-void Frame::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {
-    CFrameWnd::OnGetMinMaxInfo(lpMMI);
-    lpMMI->ptMinTrackSize.x = 3 * barWidth;
-    lpMMI->ptMinTrackSize.y = barWidth;
 }
 
 LRESULT Frame::OnClicked(WPARAM, LPARAM) {

@@ -14,14 +14,12 @@ public:
     // FALSE when there is no window; the frame has deleted itself then.
     BOOL make();
 
-    void RecalcLayout(BOOL bNotify = TRUE) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
     afx_msg LRESULT OnClicked(WPARAM wParam, LPARAM lParam);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
     afx_msg void OnChangeView();
@@ -30,9 +28,11 @@ protected:
 private:
     void fillBar();
     void choose(int page);
+    void place(CWnd& page);
     CWnd* chosen() const { return m_chosen < 0 ? NULL : m_windows[static_cast<size_t>(m_chosen)]; }
 
     CGfxOutBarCtrl m_bar;
+    CResizeCtrl m_resize;
     CImageList m_largeIcons, m_smallIcons;
     std::vector<CWnd*> m_windows; // one for each page, NULL until it is chosen
     int m_chosen = -1;
