@@ -3,30 +3,21 @@
 #include <orvfc/ORVFC.h>
 
 #include "harness.h"
+#include "picker_stage.h"
 
 #include <memory>
 
 namespace {
 
-const CRect row(0, 0, 160, 18);
-
-struct Stage {
-    CWnd parent;
+struct Stage : orv::bench::PickerStage {
     CFontCombo faces;
     CComboBox bare;
-    CDC dc;
-    CBitmap bitmap;
 
     Stage() {
-        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 300, NULL, NULL);
         const CRect rect(0, 0, 200, 200);
         faces.Create(WS_CHILD | CBS_DROPDOWNLIST, rect, &parent, 1);
         bare.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT, rect,
                     &parent, 2);
-        CClientDC screen(NULL);
-        dc.CreateCompatibleDC(&screen);
-        bitmap.CreateCompatibleBitmap(&screen, row.Width(), row.Height());
-        dc.SelectObject(&bitmap);
     }
 
     static Stage& the() {
@@ -57,17 +48,14 @@ void fillBare(int times) {
 }
 
 void paintBare(int times) {
-    const HBRUSH brush = ::GetSysColorBrush(COLOR_WINDOW);
-    while (times--) {
-        ::FillRect(Stage::the().dc.m_hDC, &row, brush);
-        ::TextOutA(Stage::the().dc.m_hDC, row.left + 21, row.top + 1, "12.00", 5);
-    }
+    while (times--)
+        Stage::the().paintBare("12.00", 5);
 }
 
 orv::bench::Work painting(std::shared_ptr<COrvCmbRecord> record) {
     return [record](int times) {
         while (times--)
-            record->DrawItem(&Stage::the().dc, row, TRUE);
+            record->DrawItem(&Stage::the().dc, Stage::the().row, TRUE);
     };
 }
 

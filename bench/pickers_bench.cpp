@@ -3,6 +3,7 @@
 #include <orvfc/ORVFC.h>
 
 #include "harness.h"
+#include "picker_stage.h"
 
 #include <memory>
 #include <vector>
@@ -10,20 +11,14 @@
 namespace {
 
 constexpr int manyRows = 5000;
-const CRect row(0, 0, 160, 18);
-
 // Windows and a paper to paint on, made before the first row is measured.
-struct Stage {
-    CWnd parent;
+struct Stage : orv::bench::PickerStage {
     CColorCmb colors;
     CComboBox bare;
     CColorSet set;
-    CDC dc;
-    CBitmap bitmap;
     COrvMainDrawManage patterns{CString()};
 
     Stage() {
-        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 300, NULL, NULL);
         const CRect rect(0, 0, 200, 200);
         colors.Create(WS_CHILD, rect, &parent, 1);
         bare.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, rect, &parent, 2);
@@ -33,10 +28,6 @@ struct Stage {
             name.Format("颜色 %d", i);
             set.AddItem(name, static_cast<COLORREF>(i));
         }
-        CClientDC screen(NULL);
-        dc.CreateCompatibleDC(&screen);
-        bitmap.CreateCompatibleBitmap(&screen, row.Width(), row.Height());
-        dc.SelectObject(&bitmap);
     }
 
     static Stage& the() {
@@ -63,12 +54,8 @@ void fillBare(int times) {
 }
 
 void paintBare(int times) {
-    Stage& stage = Stage::the();
-    const HBRUSH brush = ::GetSysColorBrush(COLOR_WINDOW);
-    while (times--) {
-        ::FillRect(stage.dc.m_hDC, &row, brush);
-        ::TextOutA(stage.dc.m_hDC, row.left + 21, row.top + 1, "虚点点线", 8);
-    }
+    while (times--)
+        Stage::the().paintBare("虚点点线", 8);
 }
 
 template <class Record>
@@ -77,9 +64,9 @@ orv::bench::Work painting(Record record) {
     return [painted](int times) {
         while (times--) {
             if constexpr (std::is_same_v<Record, CCmbLineStyleData>)
-                painted->DrawItem(&Stage::the().dc, row, TRUE, &Stage::the().patterns);
+                painted->DrawItem(&Stage::the().dc, Stage::the().row, TRUE, &Stage::the().patterns);
             else
-                painted->DrawItem(&Stage::the().dc, row, TRUE);
+                painted->DrawItem(&Stage::the().dc, Stage::the().row, TRUE);
         }
     };
 }

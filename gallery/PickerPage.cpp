@@ -22,12 +22,8 @@ CPoint placeOf(int number) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(PickerPage, CWnd)
+BEGIN_MESSAGE_MAP(PickerPage, CanvasPage)
 ON_WM_CREATE()
-ON_WM_SETFOCUS()
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_MESSAGE(WM_PRINTCLIENT, &PickerPage::OnPrintClient)
 ON_REGISTERED_MESSAGE(WM_LINE_COLOR_CMB_SELCHANGE, &PickerPage::OnChosen)
 ON_REGISTERED_MESSAGE(WM_LINE_STYLE_CMB_SELCHANGE, &PickerPage::OnChosen)
 ON_REGISTERED_MESSAGE(WM_LINE_WIDTH_CMB_SELCHANGE, &PickerPage::OnChosen)
@@ -38,16 +34,11 @@ END_MESSAGE_MAP()
 
 PickerPage* PickerPage::make(CWnd& parent, UINT id) {
     auto* page = new PickerPage;
-    const CString windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursor(NULL, IDC_ARROW));
-    // On failure the page has deleted itself.
-    return page->CreateEx(WS_EX_CONTROLPARENT, windowClass, NULL, WS_CHILD | WS_CLIPCHILDREN,
-                          CRect(0, 0, 0, 0), &parent, id)
-               ? page
-               : NULL;
+    return page->makeIn(parent, id) ? page : NULL;
 }
 
 int PickerPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1) {
+    if (CanvasPage::OnCreate(lpCreateStruct) == -1) {
         return -1;
     }
     m_font.CreatePointFont(95, "SimSun");
@@ -97,19 +88,10 @@ void PickerPage::fill() {
 }
 
 BOOL PickerPage::PreTranslateMessage(MSG* pMsg) {
-    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB && m_picker.GetPaletteWindow() == NULL) {
-        const bool back = ::GetKeyState(VK_SHIFT) < 0;
-        // Beyond the first or last control the frame's list follows.
-        if (GetFocus() == (back ? static_cast<CWnd*>(&m_color) : &m_buddy)) {
-            GetParent()->SetFocus();
-            return TRUE;
-        }
-    }
-    return IsDialogMessage(pMsg) || CWnd::PreTranslateMessage(pMsg);
-}
-
-void PickerPage::OnSetFocus(CWnd*) {
-    m_color.SetFocus();
+    // The open palette has the keys.
+    if (m_picker.GetPaletteWindow() != NULL)
+        return IsDialogMessage(pMsg) || CWnd::PreTranslateMessage(pMsg);
+    return CanvasPage::PreTranslateMessage(pMsg);
 }
 
 LRESULT PickerPage::OnChosen(WPARAM, LPARAM) {
@@ -167,20 +149,6 @@ void PickerPage::draw(CDC& dc) {
     dc.EndPath();
     m_lines.draw(dc, type, type == 101 ? std::max(width, 6) : width, m_color.GetCurrentColor());
     dc.RestoreDC(saved);
-}
-
-void PickerPage::OnPaint() {
-    CPaintDC dc(this);
-    draw(dc);
-}
-
-LRESULT PickerPage::OnPrintClient(WPARAM wParam, LPARAM) {
-    draw(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
-    return 0;
-}
-
-BOOL PickerPage::OnEraseBkgnd(CDC*) {
-    return TRUE;
 }
 
 CWnd* createPickerPage(CWnd& parent, UINT id) {

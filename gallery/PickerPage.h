@@ -2,12 +2,13 @@
 
 #include <orvfc/ORVFC.h>
 
+#include "CanvasPage.h"
 #include "LineStyles.h"
 
 namespace gallery {
 
 // The pickers of line and area properties over a canvas that shows what they say.
-class PickerPage : public CWnd {
+class PickerPage : public CanvasPage {
 public:
     // NULL when there is no window for it. The page deletes itself with its window.
     static PickerPage* make(CWnd& parent, UINT id);
@@ -24,13 +25,11 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-    void PostNcDestroy() override { delete this; }
+    void draw(CDC& dc) override;
+    CWnd& firstControl() override { return m_color; }
+    CWnd& lastControl() override { return m_buddy; }
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnChosen(WPARAM wParam, LPARAM lParam);
     afx_msg void OnFigureColor();
     DECLARE_MESSAGE_MAP()
@@ -38,7 +37,6 @@ protected:
 private:
     PickerPage() = default;
     void fill();
-    void draw(CDC& dc);
     CRect canvas() const;
 
     CFont m_font;

@@ -29,28 +29,19 @@ private:
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(TextPropertyPage, CWnd)
+BEGIN_MESSAGE_MAP(TextPropertyPage, CanvasPage)
 ON_WM_CREATE()
-ON_WM_SETFOCUS()
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_MESSAGE(WM_PRINTCLIENT, &TextPropertyPage::OnPrintClient)
 ON_EN_CHANGE(contentId, &TextPropertyPage::OnContent)
 ON_BN_CLICKED(propertiesId, &TextPropertyPage::OnProperties)
 END_MESSAGE_MAP()
 
 TextPropertyPage* TextPropertyPage::make(CWnd& parent, UINT id) {
     auto* page = new TextPropertyPage;
-    const CString windowClass = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursor(NULL, IDC_ARROW));
-    // On failure the page has deleted itself.
-    return page->CreateEx(WS_EX_CONTROLPARENT, windowClass, NULL, WS_CHILD | WS_CLIPCHILDREN,
-                          CRect(0, 0, 0, 0), &parent, id)
-               ? page
-               : NULL;
+    return page->makeIn(parent, id) ? page : NULL;
 }
 
 int TextPropertyPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1)
+    if (CanvasPage::OnCreate(lpCreateStruct) == -1)
         return -1;
     m_text.SetShowContent("江山如此多娇，引无数英雄竞折腰。 Drawn by COrvDrawText in a turned rectangle.");
     m_text.LSetSingleline(FALSE);
@@ -69,22 +60,6 @@ int TextPropertyPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         control->SetFont(&m_font);
     m_content.SetWindowText(m_text.GetShowContent());
     return 0;
-}
-
-BOOL TextPropertyPage::PreTranslateMessage(MSG* pMsg) {
-    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB) {
-        const bool back = ::GetKeyState(VK_SHIFT) < 0;
-        // Beyond the first or last control the frame's list follows.
-        if (GetFocus() == (back ? static_cast<CWnd*>(&m_content) : &m_properties)) {
-            GetParent()->SetFocus();
-            return TRUE;
-        }
-    }
-    return IsDialogMessage(pMsg) || CWnd::PreTranslateMessage(pMsg);
-}
-
-void TextPropertyPage::OnSetFocus(CWnd*) {
-    m_content.SetFocus();
 }
 
 void TextPropertyPage::OnContent() {
@@ -113,20 +88,6 @@ void TextPropertyPage::draw(CDC& dc) {
     dc.IntersectClipRect(&paper);
     m_text.Draw(&dc);
     dc.RestoreDC(saved);
-}
-
-void TextPropertyPage::OnPaint() {
-    CPaintDC dc(this);
-    draw(dc);
-}
-
-LRESULT TextPropertyPage::OnPrintClient(WPARAM wParam, LPARAM) {
-    draw(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
-    return 0;
-}
-
-BOOL TextPropertyPage::OnEraseBkgnd(CDC*) {
-    return TRUE;
 }
 
 CWnd* createTextPropertyPage(CWnd& parent, UINT id) {

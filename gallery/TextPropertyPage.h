@@ -2,31 +2,28 @@
 
 #include <orvfc/ORVFC.h>
 
+#include "CanvasPage.h"
+
 namespace gallery {
 
 // A text on a canvas, and the property sheet that changes its looks.
-class TextPropertyPage : public CWnd {
+class TextPropertyPage : public CanvasPage {
 public:
     // NULL when there is no window for it. The page deletes itself with its window.
     static TextPropertyPage* make(CWnd& parent, UINT id);
 
-    BOOL PreTranslateMessage(MSG* pMsg) override;
-
 protected:
-    void PostNcDestroy() override { delete this; }
+    void draw(CDC& dc) override;
+    CWnd& firstControl() override { return m_content; }
+    CWnd& lastControl() override { return m_properties; }
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnContent();
     afx_msg void OnProperties();
     DECLARE_MESSAGE_MAP()
 
 private:
     TextPropertyPage() = default;
-    void draw(CDC& dc);
 
     COrvDrawText m_text;
     CFont m_font;
