@@ -51,6 +51,7 @@ void takeDifference(const T& shown, const T& now, STORE store) {
         store(now);
 }
 
+const char* const kAskingRow = "其它...";                  // of the colours
 constexpr UINT kFaceListWidth = 200, kAlignListWidth = 80; // pixels
 const int kAlignments[] = {0, 1, 2, 3, 5, 6, 7};
 const double kSpacings[] = {3.5, 4.26, 5.55, 7.5}; // points
@@ -217,6 +218,12 @@ void COrvFCDrawTextPropPage::ShowText() {
     m_shown = ReadControls();
 }
 
+// While the user is asked for a colour of his own, the row that asks is no choice yet.
+COLORREF COrvFCDrawTextPropPage::ChosenColor() const {
+    return m_FontColorCmb.GetCurrentColorName() == kAskingRow ? m_shown.crText
+                                                              : m_FontColorCmb.GetCurrentColor();
+}
+
 COrvFCDrawTextPropPage::Values COrvFCDrawTextPropPage::ReadControls() {
     Values now;
     now.strFace = m_FontNameCmb.GetCurrentFontName();
@@ -224,7 +231,7 @@ COrvFCDrawTextPropPage::Values COrvFCDrawTextPropPage::ReadControls() {
     now.dSlope = m_FontAslopeCmb.GetCurrentAngle();
     now.dRowSpace = m_RowSpaceCmb.GetCurrentDist();
     now.dCharSpace = m_CharSpaceCmb.GetCurrentDist();
-    now.crText = m_FontColorCmb.GetCurrentColor();
+    now.crText = ChosenColor();
     now.nRowAlign = m_RowAlignCmb.GetCurrentAlignType();
     now.nColAlign = m_ColAlignCmb.GetCurrentAlignType();
     now.bUnderline = isOn(m_UnderlineBtn);
@@ -294,7 +301,7 @@ int COrvFCDrawTextPropPage::InvalidText() {
     if (isOn(m_BoldBtn))
         format.dwEffects |= CFE_BOLD;
     format.yHeight = orv::twipsFromPoints(orv::wholePoints(m_FontSizeCmb.GetCurrentSize()));
-    format.crTextColor = m_FontColorCmb.GetCurrentColor();
+    format.crTextColor = ChosenColor();
     orv::copyFaceName(format.szFaceName, static_cast<LPCTSTR>(m_FontNameCmb.GetCurrentFontName()));
     m_SampleEdit.SetSel(0, 99999999);
     m_SampleEdit.SetSelectionCharFormat(format);

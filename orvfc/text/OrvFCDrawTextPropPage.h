@@ -133,13 +133,14 @@ private:
     void FillControls();
     void EnableControls();
     void ShowText();
+    COLORREF ChosenColor() const;
     Values ReadControls();
     void TakeControls();
     void TakeFont(const Values& now);
     void Changed();
     BOOL IsCommandOfPicker(LPARAM lParam) const;
 
-    Values m_shown;
+    Values m_shown = {};
 
     COrvFCDrawTextPropPage(const COrvFCDrawTextPropPage&) = delete;
     COrvFCDrawTextPropPage& operator=(const COrvFCDrawTextPropPage&) = delete;

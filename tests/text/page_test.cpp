@@ -20,6 +20,7 @@ namespace {
 
 class CPage : public COrvFCDrawTextPropPage {
 public:
+    using COrvFCDrawTextPropPage::m_FontColorCmb;
     using COrvFCDrawTextPropPage::m_SampleEdit;
 };
 
@@ -349,7 +350,25 @@ TEST_F(TextPage, TypedValuesAreTakenWithEnter) {
     EXPECT_EQ(480, sampleLook(page).height);
 }
 
-// A sheet that notes whether it was confirmed.
+TEST_F(TextPage, TheRowThatAsksForAColorIsNoColor) {
+    CPage page;
+    COrvDrawText text, out;
+    text.LSetTextColor(0x123456);
+    page.ExchangeData(&text, 0);
+    open(page);
+    page.m_FontColorCmb.SetFocus();
+    page.m_FontColorCmb.ShowDropDown();
+    pressKey(VK_END);
+    EXPECT_TRUE(pumpUntil([&] { return page.m_FontColorCmb.GetCurrentColorName() == "其它..."; }));
+    page.ExchangeData(&out, 1);
+    EXPECT_EQ(0x123456u, out.LGetTextColor());
+    EXPECT_EQ(0x123456u, sampleLook(page).color);
+    pressKey(VK_ESCAPE);
+    EXPECT_TRUE(pumpUntil([&] { return page.m_FontColorCmb.GetCurrentColor() == 0x123456; }));
+    page.ExchangeData(&out, 1);
+    EXPECT_EQ(0x123456u, out.LGetTextColor());
+}
+
 TEST_F(TextPage, InASheetItAppliesAndAChoiceOfFaceDoesNotConfirm) {
     CPage page;
     CPropertySheet sheet("表单");
