@@ -1,5 +1,8 @@
 #include "OrvFCDrawTextPropPage.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <orvfc/ORVFC.h>
 
 #include "FaceName.h"
@@ -54,6 +57,8 @@ void takeDifference(const T& shown, const T& now, STORE store) {
 const char* const kAskingRow = "其它...";                  // of the colours
 constexpr UINT kFaceListWidth = 200, kAlignListWidth = 80; // pixels
 const int kAlignments[] = {0, 1, 2, 3, 5, 6, 7};
+// What the pickers can show, in points: beyond that they stand at the end.
+constexpr double kSmallestSize = 1, kLargestSize = 1638, kLargestSpacing = 10000;
 const double kSpacings[] = {3.5, 4.26, 5.55, 7.5}; // points
 
 struct EnabledControl {
@@ -87,13 +92,18 @@ int screenResolution() {
     return dc.GetDeviceCaps(LOGPIXELSY);
 }
 
-// The size in points that the font's height was made for, or the points of the height as it is.
+// The size in points that the font's height was made for, or the points of the height as it is. Its sign says
+// what the height measures, not how large it is.
 double sizeShown(COrvFont& font, int dpi) {
     const int size = font.GetFontSize();
-    if (COrvFont::ConvertHeightFromSize(size) == font.GetFontHeight())
-        return size;
-    return orv::pointsFromPixels(font.GetFontHeight() < 0 ? -font.GetFontHeight() : font.GetFontHeight(),
-                                 dpi);
+    const double points = COrvFont::ConvertHeightFromSize(size) == font.GetFontHeight()
+                              ? size
+                              : orv::pointsFromPixels(font.GetFontHeight(), dpi);
+    return std::clamp(std::abs(points), kSmallestSize, kLargestSize);
+}
+
+double spacingShown(LONG pixels, int dpi) {
+    return std::clamp(orv::pointsFromPixels(pixels, dpi), -kLargestSpacing, kLargestSpacing);
 }
 
 } // namespace
@@ -202,8 +212,8 @@ void COrvFCDrawTextPropPage::ShowText() {
     m_FontColorCmb.SetCurrentColor(m_DrawText.LGetTextColor());
     m_RowAlignCmb.SetCurrentAlignType(m_DrawText.LGetRowAlign());
     m_ColAlignCmb.SetCurrentAlignType(m_DrawText.LGetColAlign());
-    m_RowSpaceCmb.SetCurrentDist(orv::pointsFromPixels(m_DrawText.LGetRowDist(), dpi));
-    m_CharSpaceCmb.SetCurrentDist(orv::pointsFromPixels(m_DrawText.LGetCharDist(), dpi));
+    m_RowSpaceCmb.SetCurrentDist(spacingShown(m_DrawText.LGetRowDist(), dpi));
+    m_CharSpaceCmb.SetCurrentDist(spacingShown(m_DrawText.LGetCharDist(), dpi));
     showOn(m_UnderlineBtn, font.GetFontUnderline());
     showOn(m_BoldBtn, font.GetFontBold());
     showOn(m_ItalicBtn, font.GetFontItalic());

@@ -39,8 +39,8 @@ enum OrvTextPageEnable : DWORD {
 // It loads the rich edit control itself.
 //
 // The page edits a copy. A control that the user leaves alone leaves its member alone, to the last bit, also
-// where the control could not show it exactly: a member changes only when its control's value does. What each
-// control edits:
+// where the control could not show it exactly, or only the nearest end of what it can show: a member changes
+// only when its control's value does. What each control edits:
 //   face, underline, bold, italic, size   the font. The size shown is GetFontSize() where the font's height
 //                                         was made for it, else the points of its height; it is taken in
 //                                         whole points.

@@ -27,7 +27,10 @@ LONG twipsFromPoints(int points) {
 // With pi as it is, a hair above the library's own: whole degrees survive the way to radians, and the font's
 // way back, which cuts.
 double degreesFromRadians(double radians) {
-    return std::isfinite(radians) ? radians * 180 / std::numbers::pi : 0.0;
+    const double degrees = radians * 180 / std::numbers::pi;
+    if (!std::isfinite(degrees))
+        return 0.0;
+    return std::abs(degrees) <= 360 ? degrees : std::fmod(degrees, 360);
 }
 
 double radiansFromDegrees(double degrees) {

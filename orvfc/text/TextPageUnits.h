@@ -11,7 +11,7 @@ double pointsFromPixels(LONG pixels, int dpi); // 0 where there is no resolution
 LONG pixelsFromPoints(double points, int dpi); // to the nearest, halves away from zero
 int wholePoints(double points);                // cut toward zero, but at least 1
 LONG twipsFromPoints(int points);              // twentieths of a point
-double degreesFromRadians(double radians);     // finite
+double degreesFromRadians(double radians);     // whole turns are left out beyond one
 double radiansFromDegrees(double degrees);
 
 } // namespace orv

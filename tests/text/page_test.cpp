@@ -331,6 +331,41 @@ TEST_F(TextPage, TheSampleShowsWhatIsChosen) {
     EXPECT_FALSE(sample.IsEmpty());
 }
 
+// Not what the pickers showed of the text before it.
+TEST_F(TextPage, WhatNoPickerCanShowStandsAtTheNearestEnd) {
+    const struct {
+        int size;
+        LONG dist;
+        double degrees;
+        const char *sizeText, *distText, *slopeText;
+    } rows[] = {{12, 4, 30, "12.00", "3.0磅", "30.00"},
+                {-14, LONG_MAX, 400, "14.00", "10000.0磅", "40.00"},
+                {0, LONG_MIN, -400, "1.00", "-10000.0磅", "-40.00"},
+                {9000, 0, 360, "1638.00", "0.0磅", "360.00"}};
+    CPage page;
+    open(page);
+    const auto shown = [&](int id) {
+        CString value;
+        page.GetDlgItemText(id, value);
+        return value;
+    };
+    for (const auto& row : rows) {
+        COrvDrawText text, out;
+        text.LGetOrvFont()->SetFontSize(row.size, TRUE);
+        text.LSetRowDist(row.dist);
+        text.LSetCharDist(row.dist);
+        text.LSetFPRect(CFPRect(0, 0, 100, 50, row.degrees * 3.141592653589793 / 180));
+        page.ExchangeData(&text, 0);
+        EXPECT_STREQ(row.sizeText, shown(IDC_ORV_SIZE));
+        EXPECT_STREQ(row.distText, shown(IDC_ORV_ROW_SPACE));
+        EXPECT_STREQ(row.distText, shown(IDC_ORV_CHAR_SPACE));
+        EXPECT_STREQ(row.slopeText, shown(IDC_ORV_SLOPE));
+        page.ExchangeData(1);
+        page.ExchangeData(&out, 1);
+        EXPECT_EQ("", difference(membersOf(text), membersOf(out)));
+    }
+}
+
 TEST_F(TextPage, TypedValuesAreTakenWithEnter) {
     CPage page;
     open(page);

@@ -40,6 +40,9 @@ TEST(TextPageUnits, WholeDegreesStayWhole) {
         // As the font cuts it, with the library's own pi.
         EXPECT_EQ(degrees, static_cast<int>(radians * 180 / 3.1415926)) << degrees;
     }
+    EXPECT_NEAR(45, orv::degreesFromRadians(orv::radiansFromDegrees(765)), 1e-9);
+    EXPECT_NEAR(-45, orv::degreesFromRadians(orv::radiansFromDegrees(-765)), 1e-9);
+    EXPECT_EQ(0, orv::degreesFromRadians(1e308)) << "beyond what degrees can count";
     EXPECT_EQ(0, orv::degreesFromRadians(HUGE_VAL));
     EXPECT_EQ(0, orv::degreesFromRadians(std::nan("")));
 }
