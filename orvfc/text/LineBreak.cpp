@@ -71,11 +71,12 @@ TextLine LineBreaker::nextRun() {
         m_at += run.count;
         skipLineEnd();
     } else if (m_rules.autoLinefeed && !m_rules.singleLine) {
-        if (run.count == 0) { // wider than the line and alone on it
+        if (run.count == 0) { // wider than the line and alone on it: a return behind it ends this line
             line.count = run.overflow;
             line.extent = run.overflowExtent;
         }
         m_at += line.count;
+        skipLineEnd();
     } else {
         // Whatever stands behind the first line that is too wide is part of it or skipped, its line ends too.
         if (!m_rules.autoClip) {

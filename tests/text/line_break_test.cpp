@@ -51,7 +51,7 @@ TEST(LineBreak, Runs) {
         {"full before a return", "abcd\r\ne", kFeed, {"abcd", "e"}},
         {"lone lead byte at the end", "ab\xD6", kFeed, {"ab\xD6"}},
         {"a lead byte takes the return behind it", "a\xD6\r\nb", kFeed, {"a\xD6\r\nb"}},
-        {"narrower than a character", "a中b", {5, false, true, false}, {"a", "中", "b"}},
+        {"narrower than a character", "a中\r\nb", {5, false, true, false}, {"a", "中", "b"}},
         {"negative width", "ab", {-9, false, true, false}, {"a", "b"}},
         {"without line feed the rest is one line", "abcdef\r\ngh", kPlain, {"abcdef\r\ngh"}},
         {"lines before the first too wide", "ab\rabcdef\rgh", kPlain, {"ab", "abcdef\rgh"}},

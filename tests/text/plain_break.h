@@ -57,9 +57,9 @@ inline std::vector<TextLine> plainLines(std::string_view text, const BreakRules&
                 end = rules.autoClip ? fitting : text.size();
                 next = text.size();
             }
-        } else if (end < text.size()) {
-            next += text.substr(end, 2) == "\r\n" ? 2 : 1;
         }
+        if (next < text.size() && text[next] == '\r')
+            next += text.substr(next, 2) == "\r\n" ? 2 : 1;
         lines.push_back({at, end - at, font.extent(text.substr(at, end - at))});
         at = rules.singleLine ? text.size() : next;
     }
