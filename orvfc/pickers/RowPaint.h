@@ -4,22 +4,11 @@
 
 #include <afxwin.h>
 
+#include <orvfc/services/SavedDC.h>
+
 #include "OrvRecordCombo.h"
 
 namespace orv {
-
-// Gives a device context back as it was: objects, colours, path.
-class SavedDC {
-public:
-    explicit SavedDC(CDC* pDC) : m_pDC(pDC), m_nSaved(pDC->SaveDC()) {}
-    ~SavedDC() { m_pDC->RestoreDC(m_nSaved); }
-    SavedDC(const SavedDC&) = delete;
-    SavedDC& operator=(const SavedDC&) = delete;
-
-private:
-    CDC* m_pDC;
-    int m_nSaved;
-};
 
 constexpr COLORREF kSelectionFrame = 0xFF8000;
 // Where the names stand: behind a square swatch, behind a line sample.

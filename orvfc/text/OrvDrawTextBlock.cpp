@@ -94,7 +94,7 @@ void COrvDrawText::PrepareMeasuring(CDC& dc) {
 
 int COrvDrawText::MeasureBlock(CFPRect& rect, const CString& strText, orv::BreakKind kind) {
     CClientDC screen(NULL);
-    const orv::SavedDC saved(screen);
+    const orv::SavedDC saved(&screen);
     PrepareMeasuring(screen);
     orv::TextMeasurer measurer(screen);
     LONG width = 0;
@@ -141,7 +141,7 @@ int COrvDrawText::GetAutoRect(CSize& size) {
 
 int COrvDrawText::GetAutoRect(CFPRect& rect, CPoint& point, double angle) {
     CClientDC screen(NULL);
-    const orv::SavedDC saved(screen);
+    const orv::SavedDC saved(&screen);
     PrepareMeasuring(screen);
     const LONG width = orv::TextMeasurer(screen).extent(bytesOf(m_strContent));
     const TEXTMETRIC metrics = orv::textMetrics(screen);
@@ -155,7 +155,7 @@ int COrvDrawText::GetAutoRect(CFPRect& rect, CPoint& point, double angle) {
 
 int COrvDrawText::AddNewRow() {
     CClientDC screen(NULL);
-    const orv::SavedDC saved(screen);
+    const orv::SavedDC saved(&screen);
     PrepareMeasuring(screen);
     m_rect.SetRight(fit(LONGLONG(m_rect.right) + Pitch(screen)));
     return TRUE;
@@ -190,7 +190,7 @@ void COrvDrawText::DrawBlock(CDC* pDC, const CString& strText, orv::BreakKind ki
     AutoCacuBound(pDC, strText);
     SetFontAngle(&m_rect);
     const CFPRect before(m_rect);
-    const orv::SavedDC saved(*pDC);
+    const orv::SavedDC saved(pDC);
     PrepareDrawing(*pDC);
     AlignBlock(*pDC, strText, kind);
     if (strText.IsEmpty())
@@ -274,7 +274,7 @@ void COrvDrawText::DrawAligned(CDC& dc, LPCTSTR pszText, int nCount, LONG nSpare
 void COrvDrawText::DrawSingleText(CDC* pDC, CString strText, CRect rc) {
     if (!orv::isUsable(pDC))
         return;
-    const orv::SavedDC saved(*pDC); // the text alignment may move the current position
+    const orv::SavedDC saved(pDC); // the text alignment may move the current position
     const std::string_view text = bytesOf(strText);
     const LONG extent = orv::TextMeasurer(*pDC).extent(text);
     DrawAligned(*pDC, strText, static_cast<int>(text.size()), fit(LONGLONG(rc.right) - rc.left - extent),
@@ -290,7 +290,7 @@ void COrvDrawText::DrawClueText(CDC* pDC, CRect rect, CString strText) {
     lf.lfOrientation = 0;
     COrvFont upright;
     upright.SetLogFont(lf, TRUE);
-    const orv::SavedDC saved(*pDC);
+    const orv::SavedDC saved(pDC);
     pDC->SelectObject(upright.GetFont());
     pDC->SetTextJustification(0, 0);
     pDC->SetTextCharacterExtra(m_fields.nCharDist);
@@ -326,7 +326,7 @@ void COrvDrawText::FillBackground(CDC& dc) const {
     CBrush brush;
     if (!corners.isBoundedOn(dc) || !brush.CreateSolidBrush(m_fields.crBk))
         return;
-    const orv::SavedDC saved(dc);
+    const orv::SavedDC saved(&dc);
     dc.SelectObject(&brush);
     dc.SelectStockObject(NULL_PEN);
     dc.Polygon(corners.points, 4);
@@ -337,7 +337,7 @@ void COrvDrawText::DrawBorder(CDC& dc) const {
     CPen pen;
     if (!corners.isBoundedOn(dc) || !pen.CreatePen(PS_SOLID, 1, m_fields.crBorder))
         return;
-    const orv::SavedDC saved(dc);
+    const orv::SavedDC saved(&dc);
     dc.SelectObject(&pen);
     dc.BeginPath();
     dc.MoveTo(corners.points[0]);
@@ -358,7 +358,7 @@ void COrvDrawText::DrawShade(CDC& dc) const {
         !shade.CreatePolygonRgn(cast.points, 4, WINDING) ||
         !brush.CreateSolidBrush(::GetSysColor(COLOR_3DDKSHADOW)))
         return;
-    const orv::SavedDC saved(dc);
+    const orv::SavedDC saved(&dc);
     if (shade.CombineRgn(&shade, &covered, RGN_DIFF) > NULLREGION)
         dc.FillRgn(&shade, &brush);
 }

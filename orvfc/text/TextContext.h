@@ -7,24 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include <orvfc/services/SavedDC.h>
+
 namespace orv {
-
-// Puts every attribute back, with the objects that are selected. It must end before objects that it has
-// selected are deleted.
-class SavedDC {
-public:
-    explicit SavedDC(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
-    ~SavedDC() {
-        if (m_nSaved != 0)
-            m_dc.RestoreDC(m_nSaved);
-    }
-    SavedDC(const SavedDC&) = delete;
-    SavedDC& operator=(const SavedDC&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_nSaved;
-};
 
 inline BOOL isUsable(CDC* pDC) {
     ASSERT(pDC != NULL);

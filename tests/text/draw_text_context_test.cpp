@@ -101,6 +101,22 @@ TEST(DrawTextContext, ComesBackAsItWas) {
     ::DeleteEnhMetaFile(file.CloseEnhanced());
 }
 
+TEST(DrawTextContext, AnAttributeContextKeepsItsOwnSavedStates) {
+    CDC attributes;
+    attributes.CreateCompatibleDC(NULL);
+    attributes.SaveDC();
+    unusual(attributes);
+    const std::string before = stateOf(attributes);
+    drawn([&](CDC& dc) {
+        const HDC own = dc.m_hAttribDC;
+        dc.SetAttribDC(attributes.m_hDC);
+        Block block(60);
+        block.Draw(&dc, "京沪铁路");
+        dc.SetAttribDC(own);
+    });
+    EXPECT_EQ(before, stateOf(attributes));
+}
+
 TEST(DrawTextContext, SameLinesUnderAnyScale) {
     Block block(150, 0, 100);
     const CString paragraph("京沪铁路 The line from 北京 to 上海");

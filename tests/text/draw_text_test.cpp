@@ -7,8 +7,6 @@
 #include <limits>
 
 #include "orvfc/text/TextContext.h"
-#include "support/debug_events.h"
-#include "support/gdi_count.h"
 
 using namespace orv::test;
 
@@ -219,7 +217,7 @@ TEST(DrawText, PrefixesAreThoseOfSingleCalls) {
             COrvFont font;
             font.SetFontAngle(escapement / 10, TRUE);
             CClientDC dc(NULL);
-            const orv::SavedDC saved(dc);
+            const orv::SavedDC saved(&dc);
             dc.SelectObject(font.GetFont());
             dc.SetTextCharacterExtra(extra);
             const CString text("京沪铁路 Jinghu AVAWAT fi, 1318 km。\ttab");
