@@ -300,7 +300,9 @@ void COrvDrawText::DrawClueText(CDC* pDC, CRect rect, CString strText) {
     const UINT align = m_fields.nRowAlign == kRowRight    ? DT_RIGHT
                        : m_fields.nRowAlign == kRowCentre ? DT_CENTER
                                                           : DT_LEFT;
-    pDC->DrawText(strText, rect, align | DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+    const std::string_view text = bytesOf(strText);
+    pDC->DrawText(text.data(), static_cast<int>(text.size()), rect,
+                  align | DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
 }
 
 // --- the frame
@@ -308,7 +310,8 @@ void COrvDrawText::DrawClueText(CDC* pDC, CRect rect, CString strText) {
 int COrvDrawText::SetDCPath(CDC* pDC) {
     if (!orv::isUsable(pDC))
         return FALSE;
-    const CPoint position = pDC->GetCurrentPosition();
+    CPoint position(0, 0);
+    ::GetCurrentPositionEx(orv::attributeDC(*pDC), &position);
     const Corners corners(m_rect);
     if (!pDC->BeginPath())
         return FALSE;

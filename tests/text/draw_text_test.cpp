@@ -263,7 +263,8 @@ TEST(DrawText, SingleTexts) {
 TEST(DrawText, AClueIsGreyAndUpright) {
     Block block(200, 1.0);
     block.SetFontAngle(&block.LGetFPRect());
-    const Seen seen = drawn([&](CDC& dc) { block.DrawClueText(&dc, CRect(10, 10, 400, 60), "站名"); });
+    const Seen seen =
+        drawn([&](CDC& dc) { block.DrawClueText(&dc, CRect(10, 10, 400, 60), CString("站名\0a", 6)); });
     ASSERT_EQ(1u, seen.size());
     char color[16];
     snprintf(color, sizeof(color), "%06X", unsigned(::GetSysColor(COLOR_GRAYTEXT)));
@@ -274,8 +275,10 @@ TEST(DrawText, TheOutlineBecomesAPath) {
     CDC dc;
     dc.CreateCompatibleDC(NULL);
     dc.MoveTo(3, 4);
+    dc.ReleaseAttribDC();
     Block block(40, 90 * kDegree, 30);
     EXPECT_TRUE(block.SetDCPath(&dc));
+    dc.SetAttribDC(dc.m_hDC);
     POINT points[8];
     BYTE types[8];
     ASSERT_EQ(4, dc.GetPath(points, types, 8));
