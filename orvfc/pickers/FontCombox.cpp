@@ -227,8 +227,11 @@ BOOL CFontCombo::TakeTypedFace() {
         return FALSE;
     CString text;
     GetWindowText(text);
-    const COrvCmbRecord* pRow = GetRecord(FindFace(text.Trim()));
-    if (pRow == NULL || pRow->GetName() == m_strCurrent)
+    text.Trim();
+    if (text.CompareNoCase(m_strCurrent) == 0)
+        return FALSE; // the same, though its row may write it otherwise
+    const COrvCmbRecord* pRow = GetRecord(FindFace(text));
+    if (pRow == NULL)
         return FALSE;
     m_strCurrent = pRow->GetName();
     return TRUE;
