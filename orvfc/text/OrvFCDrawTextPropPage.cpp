@@ -326,14 +326,23 @@ BOOL COrvFCDrawTextPropPage::IsCommandOfPicker(LPARAM lParam) const {
     return hWnd != NULL && (hWnd == m_FontNameCmb.m_hWnd || hWnd == m_FontSizeCmb.m_hWnd);
 }
 
+void COrvFCDrawTextPropPage::TakeFields() {
+    for (CComboBox* combo : {static_cast<CComboBox*>(&m_FontNameCmb), static_cast<CComboBox*>(&m_FontSizeCmb),
+                             static_cast<CComboBox*>(&m_FontAslopeCmb)})
+        if (combo->m_hWnd != NULL && combo->GetDroppedState())
+            combo->ShowDropDown(FALSE);
+    m_FontNameCmb.SetCurrentFont();
+    m_FontSizeCmb.TakeTypedText();
+    m_FontAslopeCmb.TakeTypedText();
+    Changed();
+}
+
 BOOL COrvFCDrawTextPropPage::PreTranslateMessage(MSG* pMsg) {
     if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_RETURN) {
         char name[8] = "";
         ::GetClassNameA(pMsg->hwnd, name, sizeof name);
         if (::lstrcmpiA(name, "edit") == 0) {
-            m_FontSizeCmb.TakeTypedText();
-            m_FontAslopeCmb.TakeTypedText();
-            Changed();
+            TakeFields();
             return TRUE;
         }
     }
@@ -346,7 +355,12 @@ BOOL COrvFCDrawTextPropPage::PreTranslateMessage(MSG* pMsg) {
     }
     if (pMsg->message == WM_LINE_COLOR_CMB_SELCHANGE)
         Changed();
-    return CPropertyPage::PreTranslateMessage(pMsg);
+    if (CPropertyPage::PreTranslateMessage(pMsg))
+        return TRUE;
+    // A sheet or dialog round the page sees to its Tab and arrow keys; another parent does not.
+    CWnd* const parent = GetParent();
+    return DYNAMIC_DOWNCAST(CPropertySheet, parent) == NULL && DYNAMIC_DOWNCAST(CDialog, parent) == NULL &&
+           PreTranslateInput(pMsg);
 }
 
 void COrvFCDrawTextPropPage::OnClose() {

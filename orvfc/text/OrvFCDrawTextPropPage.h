@@ -36,7 +36,8 @@ enum OrvTextPageEnable : DWORD {
 
 // The page on which a user edits a COrvDrawText: fonts, alignment, spacing and the ways to show it, over a
 // live sample of its content. It stands in a property sheet, or alone: Create(IDD_ORV_TEXT_PAGE, pParent).
-// It loads the rich edit control itself.
+// Alone it sees to its Tab and arrow keys, unless its parent is a dialog. It loads the rich edit control
+// itself.
 //
 // The page edits a copy. A control that the user leaves alone leaves its member alone, to the last bit, also
 // where the control could not show it exactly, or only the nearest end of what it can show: a member changes
@@ -71,9 +72,9 @@ public:
     int InvalidText();
 
     BOOL OnInitDialog() override;
-    // Enter in a field of a combo takes what was typed there, and does not press a button. The commands that
-    // the face and size combos post behind their messages end here: as command 1 a dialog would take them for
-    // OK.
+    // Enter in a field of a combo closes its list and takes what was typed there, and does not press a
+    // button. The commands that the face and size combos post behind their messages end here: as command 1 a
+    // dialog would take them for OK.
     BOOL PreTranslateMessage(MSG* pMsg) override;
     void AssertValid() const override;
     void Dump(CDumpContext& dc) const override;
@@ -137,6 +138,7 @@ private:
     Values ReadControls();
     void TakeControls();
     void TakeFont(const Values& now);
+    void TakeFields();
     void Changed();
     BOOL IsCommandOfPicker(LPARAM lParam) const;
 

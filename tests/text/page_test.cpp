@@ -21,6 +21,7 @@ namespace {
 class CPage : public COrvFCDrawTextPropPage {
 public:
     using COrvFCDrawTextPropPage::m_FontColorCmb;
+    using COrvFCDrawTextPropPage::m_FontNameCmb;
     using COrvFCDrawTextPropPage::m_SampleEdit;
 };
 
@@ -383,6 +384,63 @@ TEST_F(TextPage, TypedValuesAreTakenWithEnter) {
         return out.LGetOrvFont()->GetFontSize() == 24 && std::string(text) == "24.00";
     }));
     EXPECT_EQ(480, sampleLook(page).height);
+}
+
+// Enter closes a list and takes what was typed, rubbish makes way, and nobody's passing by changes a thing.
+TEST_F(TextPage, FieldsOfThePickers) {
+    const struct {
+        int id;
+        const wchar_t* typed;
+        WORD key;
+        const char *field, *changed;
+    } rows[] = {
+        {IDC_ORV_FACE, L"tahoma", VK_RETURN, "Tahoma", "face arial -> Tahoma; "},
+        {IDC_ORV_FACE, L"rubbish", VK_RETURN, "arial", ""},
+        {IDC_ORV_FACE, L"", VK_TAB, "arial", ""},
+        {IDC_ORV_SIZE, L"1e999", VK_TAB, "1.00", "size 20 -20 -> 1 -1; "},
+        {IDC_ORV_SIZE, L"-x", VK_TAB, "15.00", ""},
+        {IDC_ORV_SLOPE, L"x", VK_RETURN, "0.00", ""},
+        {IDC_ORV_SLOPE, L"45", VK_TAB, "45.00", "angle 0.000000 -> 0.785398; "},
+        {IDC_ORV_SLOPE, L"", VK_TAB, "0.00", ""},
+    };
+    for (const auto& row : rows) {
+        COrvDrawText text, out;
+        text.LGetOrvFont()->SetFontName("arial", TRUE); // not as the list writes it
+        CPage page;
+        page.ExchangeData(&text, 0);
+        open(page);
+        page.m_FontNameCmb.AddFont("Arial", 1);
+        page.m_FontNameCmb.AddFont("Tahoma", 1);
+        auto& combo = *static_cast<CComboBox*>(page.GetDlgItem(row.id));
+        const HWND field = ::FindWindowExA(combo.m_hWnd, NULL, "Edit", NULL);
+        ::SetFocus(field);
+        combo.ShowDropDown();
+        combo.SetEditSel(0, -1);
+        typeText(row.typed);
+        pressKey(row.key);
+        CString shown;
+        EXPECT_TRUE(pumpUntil([&] {
+            combo.GetWindowText(shown);
+            return shown == row.field && !combo.GetDroppedState() &&
+                   (row.key == VK_RETURN) == (::GetFocus() == field);
+        })) << row.id
+            << " " << row.field << ": " << shown;
+        page.ExchangeData(&out, 1);
+        EXPECT_EQ(row.changed, difference(membersOf(text), membersOf(out)));
+    }
+}
+
+TEST_F(TextPage, TabGoesRoundAllControls) {
+    CPage page;
+    open(page);
+    CWnd* const first = page.GetDlgItem(IDC_ORV_UNDERLINE);
+    first->SetFocus();
+    for (int stops = 0; stops < 18; ++stops) {
+        const HWND before = ::GetFocus();
+        pressKey(VK_TAB);
+        ASSERT_TRUE(pumpUntil([&] { return ::GetFocus() != before; })) << ::GetDlgCtrlID(before);
+        EXPECT_EQ(stops == 17, ::GetFocus() == first->m_hWnd);
+    }
 }
 
 TEST_F(TextPage, TheRowThatAsksForAColorIsNoColor) {
