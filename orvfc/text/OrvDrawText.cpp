@@ -45,8 +45,7 @@ COrvDrawText& COrvDrawText::operator=(const COrvDrawText& text) {
 }
 
 void COrvDrawText::init() {
-    const UINT nDrawMode = m_fields.nDrawMode;
-    InitSingleText();
+    InitFields();
     m_font.init();
     m_fields.nRowDist = kRowDist;
     m_fields.bAutoLinefeed = TRUE;
@@ -55,11 +54,17 @@ void COrvDrawText::init() {
     m_fields.nShadeOffset = kShadeOffset;
     m_fields.dShadeDist = kShadeOffset;
     m_fields.nSingleRowHeight = 0;
-    m_fields.nDrawMode = nDrawMode;
     m_strContent = "显示内容";
 }
 
 void COrvDrawText::InitSingleText() {
+    InitFields();
+    m_font.init();
+    m_font.SetFontSize(kLabelPoints, TRUE);
+}
+
+// What both kinds have; the font, which makes GDI objects, is left to each.
+void COrvDrawText::InitFields() {
     m_fields.nBkMode = TRANSPARENT;
     m_fields.crBk = 0xFFFFFF;
     m_fields.crBorder = 0;
@@ -76,8 +81,6 @@ void COrvDrawText::InitSingleText() {
     m_fields.bDrawShade = FALSE;
     m_fields.bDrawClearanceShade = FALSE;
     m_fields.bSingleline = TRUE;
-    m_font.init();
-    m_font.SetFontSize(kLabelPoints, TRUE);
     m_rect.Init();
 }
 

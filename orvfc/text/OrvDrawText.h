@@ -187,6 +187,7 @@ private:
         int nSingleRowHeight;
         double dShadeDist;
     };
+    void InitFields();
     void RealiseFont();
     void PrepareMeasuring(CDC& dc);
     void PrepareDrawing(CDC& dc);
