@@ -133,7 +133,8 @@ int COrvFCDrawTextPropPage::ExchangeData(int save) {
 
 // --- opening
 
-BOOL COrvFCDrawTextPropPage::SubclassControls() {
+// A host's own template may lack some of them.
+void COrvFCDrawTextPropPage::SubclassControls() {
     const struct {
         CWnd& control;
         UINT id;
@@ -145,10 +146,8 @@ BOOL COrvFCDrawTextPropPage::SubclassControls() {
         {m_UnderlineBtn, IDC_ORV_UNDERLINE},  {m_BoldBtn, IDC_ORV_BOLD},
         {m_ItalicBtn, IDC_ORV_ITALIC},        {m_SampleEdit, IDC_ORV_SAMPLE},
     };
-    BOOL all = TRUE;
     for (const auto& row : controls)
-        all &= row.control.SubclassDlgItem(row.id, this);
-    return all;
+        row.control.SubclassDlgItem(row.id, this);
 }
 
 void COrvFCDrawTextPropPage::FillControls() {
@@ -156,23 +155,26 @@ void COrvFCDrawTextPropPage::FillControls() {
     m_BoldBtn.SetFontShape(kBoldShape, FALSE);
     m_ItalicBtn.SetFontShape(kItalicShape, FALSE);
     m_FontNameCmb.Initialize();
-    // The fields are narrow: their lists may be wider.
-    m_FontNameCmb.SetDroppedWidth(kFaceListWidth);
-    m_RowAlignCmb.SetDroppedWidth(kAlignListWidth);
-    m_ColAlignCmb.SetDroppedWidth(kAlignListWidth);
-    CColorSet colors;
-    m_FontColorCmb.AddItem(&colors);
-    for (const int flag : kAlignments) {
-        m_RowAlignCmb.AddItem(flag);
-        m_ColAlignCmb.AddItem(flag);
+    if (m_FontNameCmb.m_hWnd != NULL) // the field is narrow: its list may be wider
+        m_FontNameCmb.SetDroppedWidth(kFaceListWidth);
+    m_FontColorCmb.ResetColors();
+    for (CFontAlignCmb* combo : {&m_RowAlignCmb, &m_ColAlignCmb}) {
+        if (combo->m_hWnd == NULL)
+            continue;
+        combo->SetDroppedWidth(kAlignListWidth);
+        for (const int flag : kAlignments)
+            combo->AddItem(flag);
     }
-    for (const double spacing : kSpacings) {
-        m_CharSpaceCmb.AddItem(spacing);
-        m_RowSpaceCmb.AddItem(spacing);
+    for (CCharSpaceCmb* combo : {&m_CharSpaceCmb, &m_RowSpaceCmb})
+        for (const double spacing : kSpacings)
+            if (combo->m_hWnd != NULL)
+                combo->AddItem(spacing);
+    if (m_FontSizeCmb.m_hWnd != NULL) {
+        m_FontSizeCmb.InitSize();
+        m_FontSizeCmb.SetInit();
     }
-    m_FontSizeCmb.InitSize();
-    m_FontSizeCmb.SetInit();
-    m_FontAslopeCmb.Init();
+    if (m_FontAslopeCmb.m_hWnd != NULL)
+        m_FontAslopeCmb.Init();
 }
 
 void COrvFCDrawTextPropPage::EnableControls() {
@@ -181,11 +183,13 @@ void COrvFCDrawTextPropPage::EnableControls() {
 }
 
 BOOL COrvFCDrawTextPropPage::OnInitDialog() {
-    if (SubclassControls())
-        FillControls();
+    m_bShown = FALSE;
+    SubclassControls();
+    FillControls();
     const BOOL result = CPropertyPage::OnInitDialog(); // exchanges the data into the controls
     EnableControls();
-    InvalidText();
+    if (m_SampleEdit.m_hWnd != NULL)
+        InvalidText();
     return result;
 }
 
@@ -193,14 +197,10 @@ BOOL COrvFCDrawTextPropPage::OnInitDialog() {
 
 void COrvFCDrawTextPropPage::DoDataExchange(CDataExchange* pDX) {
     CPropertyPage::DoDataExchange(pDX);
-    if (m_SampleEdit.m_hWnd == NULL)
-        return; // not open, or a template without the controls
-    if (pDX->m_bSaveAndValidate) {
-        TakeControls();
-    } else {
+    if (!pDX->m_bSaveAndValidate)
         ShowText();
-        InvalidText();
-    }
+    else if (m_bShown)
+        TakeControls();
 }
 
 void COrvFCDrawTextPropPage::ShowText() {
@@ -223,9 +223,13 @@ void COrvFCDrawTextPropPage::ShowText() {
     CheckDlgButton(IDC_ORV_LINE_FEED, m_DrawText.LGetAutoLinefeed() != 0);
     CheckDlgButton(IDC_ORV_SHADE, m_DrawText.LGetDrawShade() != 0);
     CheckDlgButton(IDC_ORV_FONT_LINE, m_DrawText.LGetDrawFontLine() != 0);
+    m_shown = ReadControls();
+    m_bShown = TRUE;
+    if (m_SampleEdit.m_hWnd == NULL)
+        return;
     const CString content = m_DrawText.GetShowContent();
     m_SampleEdit.SetWindowText(content.IsEmpty() ? CString("显示内容") : content);
-    m_shown = ReadControls();
+    InvalidText();
 }
 
 // While the user is asked for a colour of his own, the row that asks is no choice yet.
@@ -371,11 +375,12 @@ void COrvFCDrawTextPropPage::OnClose() {
 // A control was changed: the copy follows it, and so does the sample. The sheet's Apply button comes alive
 // only for a change that counts.
 void COrvFCDrawTextPropPage::Changed() {
-    if (m_SampleEdit.m_hWnd == NULL)
+    if (m_hWnd == NULL || !m_bShown)
         return;
     const Values before = m_shown;
-    UpdateData(TRUE);
-    InvalidText();
+    TakeControls(); // without the fields that a derived page may exchange: they are not what was changed
+    if (m_SampleEdit.m_hWnd != NULL)
+        InvalidText();
     if (DYNAMIC_DOWNCAST(CPropertySheet, GetParent()) != NULL && !(before == m_shown))
         SetModified(TRUE);
 }
@@ -385,7 +390,8 @@ void COrvFCDrawTextPropPage::OnEditchangeComboFontName() {}
 
 void COrvFCDrawTextPropPage::OnButtonFontBold() {
     Changed();
-    m_SampleEdit.Invalidate();
+    if (m_SampleEdit.m_hWnd != NULL)
+        m_SampleEdit.Invalidate();
 }
 
 #define ORV_REFRESHING(handler)                                                                              \

@@ -130,7 +130,7 @@ private:
         BOOL bAutoBound, bBorder, bClip, bLineFeed, bShade, bFontLine;
         bool operator==(const Values&) const = default;
     };
-    BOOL SubclassControls();
+    void SubclassControls();
     void FillControls();
     void EnableControls();
     void ShowText();
@@ -143,6 +143,7 @@ private:
     BOOL IsCommandOfPicker(LPARAM lParam) const;
 
     Values m_shown = {};
+    BOOL m_bShown = FALSE; // the controls of this window show the copy
 
     COrvFCDrawTextPropPage(const COrvFCDrawTextPropPage&) = delete;
     COrvFCDrawTextPropPage& operator=(const COrvFCDrawTextPropPage&) = delete;

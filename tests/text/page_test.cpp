@@ -488,6 +488,66 @@ TEST_F(TextPage, InASheetItAppliesAndAChoiceOfFaceDoesNotConfirm) {
     EXPECT_EQ(NULL, page.m_hWnd);
 }
 
+// A check box is all that the host's own template has.
+TEST_F(TextPage, TakesATemplateThatLacksControls) {
+    alignas(4) static const WORD dialog[] = {0,
+                                             WORD((WS_CHILD | WS_VISIBLE) >> 16),
+                                             0,
+                                             0,
+                                             1,
+                                             0,
+                                             0,
+                                             90,
+                                             40,
+                                             0,
+                                             0,
+                                             0, // no menu, class, title
+                                             BS_AUTOCHECKBOX,
+                                             WORD((WS_CHILD | WS_VISIBLE | WS_TABSTOP) >> 16),
+                                             0,
+                                             0,
+                                             5,
+                                             5,
+                                             60,
+                                             9,
+                                             IDC_ORV_BORDER,
+                                             0xFFFF,
+                                             0x80,
+                                             0,
+                                             0};
+    DebugEvents events;
+    CPage page;
+    COrvDrawText text, out;
+    fill(text);
+    text.LSetDrawBorder(FALSE);
+    page.ExchangeData(&text, 0);
+    ASSERT_TRUE(page.CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(dialog), &host));
+    click(::GetDlgItem(page.m_hWnd, IDC_ORV_BORDER));
+    EXPECT_TRUE(pumpUntil([&] { return page.m_DrawText.LGetDrawBorder() != 0; }));
+    page.ExchangeData(&out, 1);
+    EXPECT_EQ("LGetDrawBorder 0 -> 1; ", difference(membersOf(text), membersOf(out)));
+    EXPECT_EQ(0, events.assertions());
+}
+
+// The host's window goes with the page in it; the page opens again in another.
+TEST_F(TextPage, OutlivesItsParent) {
+    COrvDrawText text, out;
+    fill(text);
+    CPage page;
+    page.ExchangeData(&text, 0);
+    open(page);
+    page.m_FontNameCmb.SetFocus();
+    typeText(L"rub");
+    host.DestroyWindow();
+    EXPECT_EQ(NULL, page.m_hWnd);
+    EXPECT_FALSE(page.ExchangeData(1));
+    SetUp();
+    open(page);
+    EXPECT_TRUE(page.ExchangeData(1));
+    page.ExchangeData(&out, 1);
+    EXPECT_EQ("", difference(membersOf(text), membersOf(out)));
+}
+
 TEST_F(TextPage, IsMadeByItsRunTimeClassAndLeavesNothingBehind) {
     const auto round = [&] {
         std::unique_ptr<CObject> object(RUNTIME_CLASS(COrvFCDrawTextPropPage)->CreateObject());
