@@ -184,6 +184,7 @@ void COrvFCDrawTextPropPage::EnableControls() {
 
 BOOL COrvFCDrawTextPropPage::OnInitDialog() {
     m_bShown = FALSE;
+    ModifyStyleEx(0, WS_EX_CONTROLPARENT); // Tab goes into it from a dialog round it
     SubclassControls();
     FillControls();
     const BOOL result = CPropertyPage::OnInitDialog(); // exchanges the data into the controls
