@@ -1,5 +1,7 @@
 #include "AlignCmb.h"
 
+#include <new>
+
 #include "FontChoice.h"
 
 namespace {
@@ -28,7 +30,7 @@ void CFontAlignCmb::Init() {
 }
 
 int CFontAlignCmb::AddItem(int nFlag) {
-    return InsertRecord(-1, new CCmbFontAlignData(static_cast<UINT>(nFlag)));
+    return InsertRecord(-1, new (std::nothrow) CCmbFontAlignData(static_cast<UINT>(nFlag)));
 }
 
 UINT CFontAlignCmb::GetCurrentAlignType() const {

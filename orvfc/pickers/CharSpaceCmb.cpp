@@ -1,5 +1,7 @@
 #include "CharSpaceCmb.h"
 
+#include <new>
+
 IMPLEMENT_DYNAMIC(CCharSpaceCmb, COrvValueCombo)
 
 CString CCmbCharSpaceData::GetName() const {
@@ -23,5 +25,5 @@ int CCharSpaceCmb::SetCurrentDist(double dDist) {
 }
 
 COrvCmbValueRecord* CCharSpaceCmb::NewRecord(double dValue) const {
-    return new CCmbCharSpaceData(dValue);
+    return new (std::nothrow) CCmbCharSpaceData(dValue);
 }

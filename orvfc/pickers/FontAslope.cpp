@@ -1,5 +1,7 @@
 #include "FontAslope.h"
 
+#include <new>
+
 namespace {
 
 const double kAngles[] = {0, 15, 30, 45, 90, 105, 130, 145, 160, 175, 190, 205, 300, 350}; // degrees
@@ -31,5 +33,5 @@ int CFontAslopeCmb::SetCurrentAngle(double dAngle) {
 }
 
 COrvCmbValueRecord* CFontAslopeCmb::NewRecord(double dValue) const {
-    return new CCmbFontAslopeData(dValue);
+    return new (std::nothrow) CCmbFontAslopeData(dValue);
 }

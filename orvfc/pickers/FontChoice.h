@@ -18,6 +18,12 @@ inline bool hasField(const CComboBox& combo) {
     return (combo.GetStyle() & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
 }
 
+// Enter, pressed in the field of a closed list: what stands there is meant.
+inline bool confirmsField(const CComboBox& combo, const MSG& msg) {
+    return msg.message == WM_KEYDOWN && msg.wParam == VK_RETURN && hasField(combo) &&
+           !combo.GetDroppedState();
+}
+
 // Sets the field's text only where it differs: the caret stays with whoever is typing.
 inline void showInField(CComboBox& combo, const CString& strText) {
     CString strShown;
@@ -34,7 +40,7 @@ inline void paintPlainRow(CDC* pDC, const CRect& rc, const CString& strName, int
     paintBackground(pDC, rc, nState);
     paintSelection(pDC, rc, nState);
     CFont* const pOld = pFont ? pDC->SelectObject(pFont) : NULL;
-    paintName(pDC, rc, kPlainMargin, strName, nState);
+    paintName(pDC, rc, kPlainMargin, strName, nState, DT_NOPREFIX);
     if (pOld)
         pDC->SelectObject(pOld);
 }

@@ -1,12 +1,14 @@
 #include "FontCombox.h"
 
 #include <algorithm>
+#include <new>
 #include <vector>
 
 #include <orvfc/ORVFC.h>
 #include <orvfc/text/FaceName.h>
 
 #include "FontChoice.h"
+#include "NameSearch.h"
 #include "ShapedFont.h"
 
 namespace {
@@ -15,6 +17,7 @@ constexpr DWORD kScreenFont = 1; // the flags of an enumerated face
 constexpr DWORD kNotThese = 0x4000;
 constexpr UINT_PTR kTypingTimer = 1;
 constexpr UINT kTypingPause = 500; // milliseconds
+constexpr int kMostFonts = 1000;   // at a time: the system has 10,000 handles for a program
 constexpr int kMark = 4;           // side of the mark of a face in use, in pixels
 constexpr int kNameBehindMark = 10;
 
@@ -82,7 +85,7 @@ void CFontObj::DrawItem(CDC* pDC, const CRect& rc, int nState) {
     }
     if (pFont != NULL)
         pDC->SelectObject(pFont);
-    orv::paintName(pDC, rc, kNameBehindMark, m_strFace, nState);
+    orv::paintName(pDC, rc, kNameBehindMark, m_strFace, nState, DT_NOPREFIX);
 }
 
 // --- the combo
@@ -99,12 +102,14 @@ ON_WM_TIMER()
 ON_CONTROL_REFLECT_EX(CBN_EDITCHANGE, &CFontCombo::OnEditchange)
 ON_CONTROL_REFLECT_EX(CBN_SETFOCUS, &CFontCombo::OnSetfocus)
 ON_CONTROL_REFLECT_EX(CBN_KILLFOCUS, &CFontCombo::OnKillfocus)
+ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CFontCombo::OnDropdown)
+ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &CFontCombo::OnSelendok)
 ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &CFontCombo::OnCloseUp)
 END_MESSAGE_MAP()
 
 CFontCombo::CFontCombo() : CFontCombo(0) {}
 
-CFontCombo::CFontCombo(int nStyle) : m_pCollected(NULL), m_nStyle(nStyle), m_pOwnRow(NULL) {}
+CFontCombo::CFontCombo(int nStyle) : m_pCollected(NULL), m_nStyle(nStyle), m_nFonts(0), m_pOwnRow(NULL) {}
 
 BOOL CFontCombo::PreCreateWindow(CREATESTRUCT& cs) {
     if (!(cs.style & CBS_DROPDOWNLIST))
@@ -134,6 +139,8 @@ int CALLBACK CFontCombo::EnumFamPrinterCallBackEx(const LOGFONT* plf, const TEXT
 }
 
 void CFontCombo::EnumerateFonts() {
+    if (!m_hWnd)
+        return;
     Collected collected;
     m_pCollected = &collected;
     const HDC hScreen = ::GetWindowDC(NULL);
@@ -149,7 +156,7 @@ void CFontCombo::EnumerateFonts() {
             continue;
         pLast = &face;
         if (inOrder)
-            InsertRecord(-1, new CFontObj(face, kScreenFont));
+            InsertRecord(-1, new (std::nothrow) CFontObj(face, kScreenFont));
         else
             AddFont(face, kScreenFont);
     }
@@ -191,10 +198,14 @@ int CFontCombo::AddFont(CString strFace, DWORD dwFlags) {
     if (!m_hWnd)
         return -1;
     const int nPlace = PlaceOf(strFace);
-    const COrvCmbRecord* pThere = GetRecord(nPlace);
-    if (pThere != NULL && pThere->GetName().CompareNoCase(strFace) == 0)
-        return nPlace;
-    return InsertRecord(nPlace, new CFontObj(strFace, dwFlags));
+    auto* pThere = static_cast<CFontObj*>(GetRecord(nPlace));
+    if (pThere == NULL || pThere->GetName().CompareNoCase(strFace) != 0)
+        return InsertRecord(nPlace, new (std::nothrow) CFontObj(strFace, dwFlags));
+    if (pThere == m_pOwnRow) {
+        *pThere = CFontObj(strFace, dwFlags); // one of the list's from now on
+        m_pOwnRow = NULL;
+    }
+    return nPlace;
 }
 
 int CFontCombo::SetFontInUse(const CString& strFace) {
@@ -202,6 +213,7 @@ int CFontCombo::SetFontInUse(const CString& strFace) {
     if (pRow == NULL)
         return FALSE;
     pRow->SetFontInUse(TRUE);
+    Invalidate(FALSE);
     return TRUE;
 }
 
@@ -214,10 +226,11 @@ void CFontCombo::SetCurrentFontName(CString strFace) {
     int nRow = FindFace(strFace);
     if (nRow < 0 && !orv::hasField(*this) && !strFace.IsEmpty()) {
         DeleteRecord(m_pOwnRow);
-        nRow = InsertRecord(-1, new CFontObj(strFace, 0));
+        nRow = InsertRecord(PlaceOf(strFace), new (std::nothrow) CFontObj(strFace, 0));
         m_pOwnRow = GetRecord(nRow);
     }
     SetCurSel(nRow);
+    m_strCurrent = strFace; // the row's may be written otherwise
     orv::showInField(*this, m_strCurrent);
 }
 
@@ -235,6 +248,32 @@ BOOL CFontCombo::TakeTypedFace() {
         return FALSE;
     m_strCurrent = pRow->GetName();
     return TRUE;
+}
+
+BOOL CFontCombo::TakeChosenRow() {
+    const auto* pRow = CurrentRecord<CFontObj>();
+    if (pRow == NULL)
+        return FALSE;
+    m_strCurrent = pRow->GetName();
+    orv::showInField(*this, m_strCurrent);
+    return TRUE;
+}
+
+// The field is done with: its name is taken and told, or the current one comes back.
+void CFontCombo::TakeField() {
+    KillTimer(kTypingTimer);
+    const BOOL changed = TakeTypedFace();
+    SetCurrentFontName(m_strCurrent);
+    if (changed)
+        Report();
+}
+
+// The field has the beginning of the row's name.
+BOOL CFontCombo::IsBegunInField(int nIndex) const {
+    CString text;
+    GetWindowText(text);
+    const COrvCmbRecord* pRow = GetRecord(nIndex);
+    return pRow != NULL && !text.IsEmpty() && orv::nameBegins(pRow->GetName(), text);
 }
 
 int CFontCombo::SetCurrentFont() {
@@ -257,12 +296,8 @@ void CFontCombo::Report() {
 }
 
 void CFontCombo::OnSelchange() {
-    const auto* pRow = CurrentRecord<CFontObj>();
-    if (pRow == NULL)
-        return;
-    m_strCurrent = pRow->GetName();
-    orv::showInField(*this, m_strCurrent);
-    Report();
+    if (TakeChosenRow())
+        Report();
 }
 
 BOOL CFontCombo::OnEditchange() {
@@ -288,22 +323,53 @@ BOOL CFontCombo::OnSetfocus() {
 }
 
 BOOL CFontCombo::OnKillfocus() {
-    KillTimer(kTypingTimer);
-    if (orv::hasField(*this)) {
-        const BOOL changed = TakeTypedFace();
-        SetCurrentFontName(m_strCurrent);
-        if (changed)
-            Report();
+    if (orv::hasField(*this))
+        TakeField();
+    return FALSE;
+}
+
+BOOL CFontCombo::PreTranslateMessage(MSG* pMsg) {
+    if (orv::confirmsField(*this, *pMsg))
+        TakeField();
+    return COrvRecordCombo::PreTranslateMessage(pMsg);
+}
+
+// An opening list completes the field to the first row that begins so, and tells nobody.
+BOOL CFontCombo::OnDropdown() {
+    return orv::hasField(*this) ? OnEditchange() : FALSE;
+}
+
+// Typing led to the row, Enter chose it: the list closes without a change of selection.
+BOOL CFontCombo::OnSelendok() {
+    const int nRow = GetCurSel();
+    if (orv::hasField(*this) && IsBegunInField(nRow)) {
+        SetWindowText(GetRecord(nRow)->GetName());
+        OnEditchange();
     }
     return FALSE;
 }
 
 // Fonts are for rows that are seen.
 BOOL CFontCombo::OnCloseUp() {
+    FreeFonts();
+    return FALSE;
+}
+
+void CFontCombo::FreeFonts() {
     for (int i = GetCount(); i-- > 0;)
         if (auto* pRow = static_cast<CFontObj*>(GetRecord(i)))
             pRow->FreeFont();
-    return FALSE;
+    m_nFonts = 0;
+}
+
+void CFontCombo::DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& rc, int nState) {
+    auto& row = static_cast<CFontObj&>(record);
+    const bool hadFont = row.HasFont();
+    COrvRecordCombo::DrawRecord(record, pDC, rc, nState);
+    if (!GetDroppedState())
+        row.FreeFont(); // in the field: no list closes behind it
+    else if (!hadFont && ++m_nFonts > kMostFonts)
+        FreeFonts();
 }
 
 void CFontCombo::Dump(CDumpContext& dc) const {

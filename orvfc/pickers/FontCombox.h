@@ -21,6 +21,7 @@ public:
     // in use has a mark before it. The font is made at the first drawing and kept until FreeFont.
     void DrawItem(CDC* pDC, const CRect& rc, int nState) override;
     void FreeFont();
+    BOOL HasFont() const { return m_pFont != NULL; }
 
 private:
     CFont* OwnFace(CDC* pDC);
@@ -38,9 +39,12 @@ private:
 //
 // A choice posts to the parent WM_FONT_NAME_CMB_SELCHANGE (wParam: the combo's identifier, lParam 0), and
 // behind it WM_COMMAND with wParam 1 and lParam the combo's window. A plain dialog takes that command for its
-// OK button: swallow it in PreTranslateMessage, as COrvFCDrawTextPropPage does. A typed name counts as a
-// choice when it is the name of a row (the case does not count) and the typing pauses or the field is left;
-// other text makes way for the current name then.
+// OK button: swallow it in PreTranslateMessage, as COrvFCDrawTextPropPage does.
+//
+// A typed name counts as a choice when it is the name of a row (the case does not count) and the typing
+// pauses, Enter is pressed or the field is left; other text makes way for the current name with Enter and
+// when the field is left. While the list is open, typing leads to the row that begins so, and Enter chooses
+// it.
 class ORVFC_API CFontCombo : public COrvRecordCombo {
     DECLARE_DYNAMIC(CFontCombo)
 
@@ -76,11 +80,16 @@ protected:
                                                  LPARAM lThis);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    void DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& rc, int nState) override;
     void OnSelchange() override;
+    void OnSelected() override { TakeChosenRow(); }
     afx_msg void OnDestroy();
     afx_msg BOOL OnEditchange();
     afx_msg BOOL OnSetfocus();
     afx_msg BOOL OnKillfocus();
+    afx_msg BOOL OnDropdown();
+    afx_msg BOOL OnSelendok();
     afx_msg BOOL OnCloseUp();
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     DECLARE_MESSAGE_MAP()
@@ -89,12 +98,16 @@ private:
     int FindFace(const CString& strFace) const;
     int PlaceOf(const CString& strFace) const;
     BOOL TakeTypedFace();
-    void ShowCurrent();
+    BOOL TakeChosenRow();
+    void TakeField();
+    BOOL IsBegunInField(int nIndex) const;
+    void FreeFonts();
     void Report();
 
     CString m_strCurrent;
     struct Collected;
     Collected* m_pCollected; // while the system enumerates
     int m_nStyle;
+    int m_nFonts;             // made since they were freed
     COrvCmbRecord* m_pOwnRow; // the row that SetCurrentFontName added; null: none
 };

@@ -1,5 +1,7 @@
 #include "FontShape.h"
 
+#include <new>
+
 #include "FontChoice.h"
 #include "ShapedFont.h"
 
@@ -30,7 +32,7 @@ void CFontShapeCmb::Init() {
 }
 
 int CFontShapeCmb::AddItem(UINT nShape) {
-    return InsertRecord(-1, new CCmbFontShapeData(nShape));
+    return InsertRecord(-1, new (std::nothrow) CCmbFontShapeData(nShape));
 }
 
 UINT CFontShapeCmb::GetCurrentShape() const {

@@ -1,5 +1,7 @@
 #include "FontSizeCmb.h"
 
+#include <new>
+
 #include <orvfc/ORVFC.h>
 
 #include "FontChoice.h"
@@ -39,7 +41,7 @@ int CFontSizeCmb::IsFontSizeIn(double dSize) const {
 }
 
 COrvCmbValueRecord* CFontSizeCmb::NewRecord(double dValue) const {
-    return new CCmbFontSizeData(dValue);
+    return new (std::nothrow) CCmbFontSizeData(dValue);
 }
 
 void CFontSizeCmb::OnSelchange() {

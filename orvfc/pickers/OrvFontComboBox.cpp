@@ -80,9 +80,20 @@ int COrvFontComboBox::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return nResult;
 }
 
+void COrvFontComboBox::SetHeights() {
+    const UINT nHeight = static_cast<UINT>(orv::rowHeight(*this, kRowHeight));
+    SetItemHeight(-1, nHeight);
+    SetItemHeight(0, nHeight);
+}
+
+// Only owner-drawn combos say when an item goes; without strings an item's text itself would be its data.
+BOOL COrvFontComboBox::OwnsFonts() const {
+    return (GetStyle() & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0 &&
+           (GetStyle() & CBS_HASSTRINGS) != 0;
+}
+
 void COrvFontComboBox::Attached() {
-    SetItemHeight(-1, kRowHeight);
-    SetItemHeight(0, kRowHeight);
+    SetHeights();
     m_bFilled = FALSE;
     PostMessage(kInitFonts);
 }
@@ -114,7 +125,7 @@ void COrvFontComboBox::InitFonts() {
 }
 
 void COrvFontComboBox::FillFonts() {
-    if (!m_hWnd)
+    if (!m_hWnd || !OwnsFonts())
         return;
     m_bFilled = TRUE;
     m_bFilling = TRUE;
@@ -134,17 +145,22 @@ int COrvFontComboBox::GetSelFont(LOGFONT& lf) const {
     return TRUE;
 }
 
-// Somebody else's pointer would be deleted as a font.
 LRESULT COrvFontComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == CB_SETITEMDATA && !m_bFilling)
+    // Somebody else's pointer would be deleted as a font.
+    const bool setsData = message == CB_SETITEMDATA && !m_bFilling;
+    const bool addsData = message == CB_ADDSTRING || message == CB_INSERTSTRING || message == CB_DIR;
+    if (setsData || (addsData && !OwnsFonts()))
         return CB_ERR;
-    return CComboBox::WindowProc(message, wParam, lParam);
+    const LRESULT nResult = CComboBox::WindowProc(message, wParam, lParam);
+    if (message == WM_SETFONT)
+        SetHeights();
+    return nResult;
 }
 
 // --- items
 
 void COrvFontComboBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    lpMeasureItemStruct->itemHeight = kRowHeight;
+    lpMeasureItemStruct->itemHeight = static_cast<UINT>(orv::rowHeight(*this, kRowHeight));
 }
 
 void COrvFontComboBox::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
@@ -181,7 +197,7 @@ void COrvFontComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
 void COrvFontComboBox::DrawFont(CDC* pDC, const CRect& rc, const LOGFONT& lf) {
     LOGFONT own = orv::fontOf(pDC);
     memcpy(own.lfFaceName, lf.lfFaceName, sizeof own.lfFaceName);
-    own.lfCharSet = lf.lfCharSet;
+    own.lfCharSet = DEFAULT_CHARSET; // the face's first one need not have its name's characters
     CFont font;
     font.CreateFontIndirect(&own);
     CFont* const pOld = pDC->SelectObject(&font);

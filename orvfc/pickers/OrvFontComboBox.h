@@ -13,8 +13,8 @@ enum OrvFontComboStyle {
 // The plain picker of font faces: a drop-down list of the system's TrueType fonts, each item with the LOGFONT
 // that the system gave for it as its data, which the combo owns. Attached to a dialog's combo
 // (CBS_OWNERDRAWFIXED, CBS_HASSTRINGS; CBS_SORT for the alphabet) or created, it fills itself when the
-// message loop first runs; call InitFonts to have it filled at once. It tells its parent of choices by
-// CBN_SELCHANGE.
+// message loop first runs; call InitFonts to have it filled at once. Without the first two styles it stays
+// empty. It tells its parent of choices by CBN_SELCHANGE.
 class ORVFC_API COrvFontComboBox : public CComboBox {
     DECLARE_DYNAMIC(COrvFontComboBox)
 
@@ -33,7 +33,7 @@ public:
     int GetSelFont(LOGFONT& lf) const;
 
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
-    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override; // 18 pixels
+    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override; // 18 pixels, more for a high font
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
     void Dump(CDumpContext& dc) const override;
 
@@ -53,6 +53,8 @@ protected:
 
 private:
     void Attached();
+    void SetHeights();
+    BOOL OwnsFonts() const;
 
     OrvFontComboStyle m_nStyle;
     COLORREF m_crHilightText, m_crHilightBack, m_crNormalText, m_crNormalBack;

@@ -55,10 +55,15 @@ int COrvRecordCombo::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return nResult;
 }
 
+UINT COrvRecordCombo::RowHeight() const {
+    return static_cast<UINT>(orv::rowHeight(*this, m_nRowHeight));
+}
+
 // In a dialog WM_MEASUREITEM has come and gone before the combo is attached.
 void COrvRecordCombo::SetHeights() {
-    SetItemHeight(-1, static_cast<UINT>(m_nRowHeight));
-    SetItemHeight(0, static_cast<UINT>(m_nRowHeight));
+    const UINT nHeight = RowHeight();
+    SetItemHeight(-1, nHeight);
+    SetItemHeight(0, nHeight);
 }
 
 BOOL COrvRecordCombo::OwnsItems() const {
@@ -162,7 +167,7 @@ void COrvRecordCombo::DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& r
 }
 
 void COrvRecordCombo::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    lpMeasureItemStruct->itemHeight = static_cast<UINT>(m_nRowHeight);
+    lpMeasureItemStruct->itemHeight = RowHeight();
 }
 
 void COrvRecordCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
@@ -256,6 +261,17 @@ LRESULT COrvRecordCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
         if (!HasStrings())
             return CB_ERR;
         break;
+    case WM_SETFONT:
+        CComboBox::WindowProc(message, wParam, lParam);
+        SetHeights();
+        return 0;
+    case CB_SETCURSEL:
+    case CB_SELECTSTRING: {
+        const LRESULT nItem = CComboBox::WindowProc(message, wParam, lParam);
+        if (nItem != CB_ERR)
+            OnSelected();
+        return nItem;
+    }
     default:
         break;
     }

@@ -28,9 +28,9 @@ protected:
 //
 // Attach it to a dialog's combo (DDX_Control, SubclassDlgItem; give it CBS_OWNERDRAWFIXED and CBS_HASSTRINGS)
 // or create it: then the two styles, and CBS_DROPDOWNLIST where no kind was asked for, are added. Row heights
-// are set in both cases. Without CBS_HASSTRINGS other programs see the selected item's name only. The
-// parent must be a window of the foundation: owner-drawing comes back through it. Items go with the window: a
-// window created anew is filled anew.
+// are set in both cases; a font higher than the rows makes them higher. Without CBS_HASSTRINGS other programs
+// see the selected item's name only. The parent must be a window of the foundation: owner-drawing comes back
+// through it. Items go with the window: a window created anew is filled anew.
 //
 // A choice by mouse or keyboard is told to the message window or the parent; selecting in code tells nobody.
 // The host's own ON_CBN_SELCHANGE runs as well, after the combo's part, before what was posted arrives.
@@ -45,7 +45,7 @@ public:
     void SetMessageWnd(CWnd* pMessageWnd) { m_pMessageWnd = pMessageWnd; }
     CWnd* GetMessageWnd() const { return m_pMessageWnd; }
 
-    // Selects item 0; an empty list stays as it is.
+    // Selects item 0, in the pickers with a current value that too; an empty list stays as it is.
     void SetInit();
 
     // An item without record draws nothing; without item (the empty field) the background alone is drawn.
@@ -105,6 +105,8 @@ protected:
     virtual void DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& rc, int nState);
     // After the selection has changed by mouse or keyboard. The window may be gone when it returns.
     virtual void OnSelchange() = 0;
+    // After a row was selected by a message: in code, or from another program.
+    virtual void OnSelected() {}
     // Posts: to the message window with wParam 0, else to the parent with wParam = the combo's identifier.
     // lParam is 0. What was posted may find the combo gone.
     void PostChoice(UINT message);
@@ -119,6 +121,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    UINT RowHeight() const;
     void SetHeights();
     void SetRecord(int nIndex, COrvCmbRecord* pRecord);
     BOOL OwnsItems() const;

@@ -10,6 +10,7 @@ IMPLEMENT_DYNAMIC(COrvValueCombo, COrvRecordCombo)
 BEGIN_MESSAGE_MAP(COrvValueCombo, COrvRecordCombo)
 ON_WM_KEYDOWN()
 ON_CONTROL_REFLECT_EX(CBN_EDITCHANGE, &COrvValueCombo::OnEditchange)
+ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &COrvValueCombo::OnDropdown)
 ON_CONTROL_REFLECT_EX(CBN_KILLFOCUS, &COrvValueCombo::OnKillfocus)
 END_MESSAGE_MAP()
 
@@ -29,7 +30,8 @@ BOOL COrvValueCombo::PreCreateWindow(CREATESTRUCT& cs) {
 // --- rows
 
 void COrvValueCombo::AddValue(double dValue) {
-    InsertRecord(-1, NewRecord(dValue));
+    if (InRange(dValue))
+        InsertRecord(-1, NewRecord(dValue));
 }
 
 int COrvValueCombo::FindValue(double dValue) const {
@@ -37,15 +39,8 @@ int COrvValueCombo::FindValue(double dValue) const {
         [dValue](const COrvCmbValueRecord& row) { return orv::sameValue(row.GetValue(), dValue); });
 }
 
-int COrvValueCombo::SelectRow(int nIndex) {
-    return CComboBox::SetCurSel(nIndex);
-}
-
 int COrvValueCombo::SetCurSel(int nSelect) {
-    const int nResult = m_hWnd ? SelectRow(nSelect) : CB_ERR;
-    if (nResult != CB_ERR)
-        TakeChosenRow();
-    return nResult;
+    return m_hWnd ? CComboBox::SetCurSel(nSelect) : CB_ERR;
 }
 
 BOOL COrvValueCombo::TakeChosenRow() {
@@ -66,53 +61,77 @@ void COrvValueCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
 // --- the current value
 
 int COrvValueCombo::SetCurrent(double dValue) {
-    if (!m_hWnd || !(dValue >= m_dLow && dValue <= m_dHigh))
+    if (!m_hWnd || !InRange(dValue))
         return FALSE;
-    m_dCurrent = dValue;
     int nRow = FindValue(dValue);
     if (nRow < 0 && !orv::hasField(*this)) {
         DeleteRecord(m_pOwnRow);
         nRow = InsertRecord(-1, NewRecord(dValue));
         m_pOwnRow = GetRecord(nRow);
     }
-    SelectRow(nRow);
+    SetCurSel(nRow);
+    m_dCurrent = dValue; // the row's may differ a little
     ShowCurrent();
     return TRUE;
 }
 
-void COrvValueCombo::ShowCurrent() {
+CString COrvValueCombo::FieldText() const {
+    CString text;
+    GetWindowText(text);
+    return text;
+}
+
+CString COrvValueCombo::CurrentText() const {
     const std::unique_ptr<COrvCmbValueRecord> row(NewRecord(m_dCurrent));
-    orv::showInField(*this, row->GetName());
+    return row ? row->GetName() : CString();
+}
+
+void COrvValueCombo::ShowCurrent() {
+    orv::showInField(*this, CurrentText());
 }
 
 // --- typing
 
 BOOL COrvValueCombo::OnEditchange() {
-    CString text;
-    GetWindowText(text);
-    orv::parseTyped(static_cast<LPCTSTR>(text), m_dLow, m_dHigh, m_dCurrent);
+    const CString text = FieldText();
+    // As it was put there: the value behind it may be finer than its text.
+    if (text != CurrentText())
+        orv::parseTyped(static_cast<LPCTSTR>(text), m_dLow, m_dHigh, m_dCurrent);
+    return FALSE;
+}
+
+// An opening list takes the first row that begins with the field's text, and tells nobody: 1 becomes 10.00.
+BOOL COrvValueCombo::OnDropdown() {
+    TakeTypedText();
     return FALSE;
 }
 
 int COrvValueCombo::TakeTypedText() {
     if (!m_hWnd || !orv::hasField(*this))
         return FALSE;
-    CString text;
-    GetWindowText(text);
-    const std::unique_ptr<COrvCmbValueRecord> row(NewRecord(m_dCurrent));
-    if (text == row->GetName())
-        return TRUE; // as it was put there: the value behind it may be finer than its text
+    const CString text = FieldText();
+    if (text == CurrentText())
+        return TRUE;
     double dTyped = m_dCurrent;
     const bool good = orv::parseTyped(static_cast<LPCTSTR>(text), m_dLow, m_dHigh, dTyped);
+    SetCurSel(FindValue(dTyped));
     m_dCurrent = dTyped;
-    SelectRow(FindValue(m_dCurrent));
     ShowCurrent();
     return good;
 }
 
 BOOL COrvValueCombo::OnKillfocus() {
     TakeTypedText();
+    // The field would go on showing its selection.
+    if (orv::hasField(*this))
+        SetEditSel(-1, 0);
     return FALSE;
+}
+
+BOOL COrvValueCombo::PreTranslateMessage(MSG* pMsg) {
+    if (orv::confirmsField(*this, *pMsg))
+        TakeTypedText();
+    return COrvRecordCombo::PreTranslateMessage(pMsg);
 }
 
 void COrvValueCombo::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {

@@ -1,5 +1,7 @@
 #include "RowPaint.h"
 
+#include <algorithm>
+
 namespace orv {
 
 namespace {
@@ -42,7 +44,7 @@ CRect swatchOf(const CRect& rc) {
     return CRect(rc.left + 2, rc.top + 2, rc.left + 16, rc.top + 16);
 }
 
-void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int nState) {
+void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int nState, UINT nFormat) {
     SavedDC saved(pDC);
     pDC->SetBkColor(::GetSysColor(backgroundOf(nState)));
     pDC->SetTextColor(::GetSysColor(nState & ODS_DISABLED ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
@@ -50,7 +52,20 @@ void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int
     // The text's opaque ground leaves the frame alone.
     if (nState & ODS_SELECTED)
         rcName.DeflateRect(0, 1, 1, 1);
-    pDC->DrawText(strName, &rcName, DT_SINGLELINE | DT_VCENTER);
+    pDC->DrawText(strName, &rcName, DT_SINGLELINE | DT_VCENTER | nFormat);
+}
+
+int rowHeight(const CWnd& combo, int nLeast) {
+    constexpr int nFrame = 1; // above and below
+    CFont* const pFont = combo.m_hWnd ? combo.GetFont() : NULL;
+    TEXTMETRIC metrics = {};
+    CDC dc;
+    if (!pFont || !dc.CreateCompatibleDC(NULL))
+        return nLeast;
+    const SavedDC saved(&dc);
+    dc.SelectObject(pFont);
+    dc.GetTextMetrics(&metrics);
+    return std::max<int>(nLeast, metrics.tmHeight + 2 * nFrame);
 }
 
 } // namespace orv

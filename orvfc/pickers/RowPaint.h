@@ -24,7 +24,10 @@ void paintSelection(CDC* pDC, const CRect& rc, int nState, COLORREF crFrame = kS
 void paintSwatch(CDC* pDC, const CRect& rcSwatch, const LOGBRUSH& brush);
 // The square at the left of a row.
 CRect swatchOf(const CRect& rc);
-// From nLeft units behind the row's left edge to its right edge.
-void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int nState);
+// From nLeft units behind the row's left edge to its right edge. nFormat: more of DrawText's flags.
+void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int nState, UINT nFormat = 0);
+
+// The height of a combo's rows in pixels: nLeast, or more where its font needs that.
+int rowHeight(const CWnd& combo, int nLeast);
 
 } // namespace orv

@@ -65,6 +65,23 @@ protected:
         typeText(wideText(text));
         ASSERT_TRUE(waitUntil([&] { return textOf(combo) == text; })) << textOf(combo);
     }
+    // A key as the program's own message loop has it, until the condition holds.
+    void pressInLoop(WORD key, const std::function<bool()>& condition) {
+        dialog.settle();
+        pressKey(key);
+        EXPECT_TRUE(waitInLoop(condition));
+    }
+    bool waitInLoop(const std::function<bool()>& condition) {
+        MSG message;
+        return waitUntil([&] {
+            while (!condition() && ::PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
+                if (!dialog.WalkPreTranslateTree(dialog.m_hWnd, &message)) {
+                    ::TranslateMessage(&message);
+                    ::DispatchMessage(&message);
+                }
+            return condition();
+        });
+    }
     void leave() {
         CWnd* other = dialog.GetDlgItem(IDC_OTHER);
         other->SetFocus();
@@ -101,6 +118,13 @@ TEST_F(FontPickers, FillThemselvesAsTold) {
         EXPECT_EQ(0, combo->GetCurSel());
         EXPECT_EQ(18, combo->GetItemHeight(0));
     }
+    EXPECT_EQ(5, sizes.GetCurrentSize());
+    EXPECT_EQ(3.5, spaces.GetCurrentDist());
+    ::SendMessage(sizes.m_hWnd, CB_SETCURSEL, 2, 0);
+    EXPECT_EQ(8, sizes.GetCurrentSize()) << "selected by whomever";
+    EXPECT_EQ("8.00", textOf(sizes));
+    sizes.SetCurrentSize(8.0000004);
+    EXPECT_EQ(8.0000004, sizes.GetCurrentSize()) << "as it was set";
     // A list is chosen from, sizes and slopes may be typed.
     EXPECT_EQ(DWORD(CBS_DROPDOWN), sizes.GetStyle() & CBS_DROPDOWNLIST);
     EXPECT_EQ(DWORD(CBS_DROPDOWN), angles.GetStyle() & CBS_DROPDOWNLIST);
@@ -170,6 +194,9 @@ TEST_F(FontPickers, WhatIsNoValueIsRefused) {
     EXPECT_FALSE(angles.SetCurrentAngle(361));
     EXPECT_TRUE(angles.SetCurrentAngle(-360));
     EXPECT_EQ(CB_ERR, sizes.SetCurSel(0));
+    for (const double wrong : {-3.0, HUGE_VAL, std::nan("")})
+        sizes.AddItem(wrong);
+    EXPECT_EQ(0, sizes.GetCount()) << "nor can it be chosen";
     EXPECT_FALSE(none.SetCurrentSize(8)) << "no window";
     EXPECT_EQ(CB_ERR, none.SetCurSel(0));
     EXPECT_FALSE(none.TakeTypedText());
@@ -197,9 +224,13 @@ TEST_F(FontPickers, TypedNumbersCountAndRubbishIsKeptOut) {
         EXPECT_EQ(9, sizes.GetCurrentSize()) << rubbish;
     }
     type(sizes, "14");
-    ::SendMessage(sizes.m_hWnd, WM_KEYDOWN, VK_RETURN, 0);
-    EXPECT_EQ("14.00", textOf(sizes));
+    pressInLoop(VK_RETURN, [&] { return textOf(sizes) == "14.00"; });
     EXPECT_EQ(6, sizes.GetCurSel());
+    type(sizes, "1");
+    pressInLoop(VK_F4, [&] { return sizes.GetDroppedState() != 0; });
+    EXPECT_EQ("1.00", textOf(sizes)) << "and not the first row that begins so";
+    EXPECT_EQ(1, sizes.GetCurrentSize());
+    EXPECT_EQ(-1, sizes.GetCurSel());
 }
 
 TEST_F(FontPickers, ASizeIsReportedInOrder) {
@@ -216,6 +247,9 @@ TEST_F(FontPickers, ASizeIsReportedInOrder) {
     EXPECT_EQ("CBN_SELCHANGE 7; WM_FONT_SIZE_CMB_SELCHANGE 7 0; command of 7; ", dialog.toldText());
     EXPECT_EQ(10, sizes.GetCurrentSize());
     EXPECT_EQ("10.00", textOf(sizes));
+    sizes.SetEditSel(0, -1);
+    leave();
+    EXPECT_EQ(LOWORD(sizes.GetEditSel()), HIWORD(sizes.GetEditSel())) << "no selection is left behind";
     dialog.told.clear();
     CFontAslopeCmb angles;
     create(angles);
@@ -303,39 +337,114 @@ TEST_F(FontPickers, AFaceIsChosenOrTyped) {
     EXPECT_EQ("WM_FONT_NAME_CMB_SELCHANGE 7 0; command of 7; ", dialog.toldText());
 }
 
+TEST_F(FontPickers, AFaceIsTypedWithEnterAndIntoTheOpenList) {
+    CFontCombo combo;
+    create(combo);
+    for (const char* face : {"Alpha", "Beta", "Gamma", "中易宋体", "中易黑体"})
+        combo.AddFont(face, 1);
+    combo.SetInit();
+    EXPECT_STREQ("Alpha", combo.GetCurrentFontName());
+    type(combo, "beta");
+    pressInLoop(VK_RETURN, [&] { return textOf(combo) == "Beta"; });
+    EXPECT_STREQ("Beta", combo.GetCurrentFontName());
+    pressInLoop(VK_F4, [&] { return combo.GetDroppedState() != 0; });
+    type(combo, "中易宋");
+    pressInLoop(VK_RETURN, [&] { return textOf(combo) == "中易宋体"; });
+    EXPECT_TRUE(waitUntil([&] { return combo.GetCurrentFontName() == "中易宋体"; }));
+    // A list without a selection takes what the field begins, and nobody is told by the system.
+    type(combo, "Ga");
+    const auto current = [&] { return std::string(combo.GetCurrentFontName()); };
+    combo.SendMessage(WM_TIMER, 1); // the typing has paused
+    combo.ShowDropDown();
+    EXPECT_TRUE(waitUntil([&] { return current() == textOf(combo); })) << current() << textOf(combo);
+    EXPECT_EQ("Gamma", current());
+}
+
+TEST_F(FontPickers, ADropDownListKeepsItsAlphabet) {
+    CFontCombo combo;
+    create(combo, CBS_DROPDOWNLIST);
+    for (const char* face : {"Gamma", "Alpha"})
+        combo.AddFont(face, 1);
+    combo.SetCurrentFontName("Delta");
+    combo.SetCurrentFontName("Beta");
+    EXPECT_EQ("Alpha Beta Gamma ", rowTexts(combo)) << "one foreign name at a time";
+    EXPECT_EQ(1, combo.AddFont("Beta", 1)) << "no more a foreign one";
+    combo.SetCurrentFontName("Delta");
+    EXPECT_EQ("Alpha Beta Delta Gamma ", rowTexts(combo));
+    EXPECT_EQ(2, combo.GetCurSel());
+}
+
+TEST_F(FontPickers, RowsAreAsHighAsTheirFont) {
+    CFont font;
+    font.CreatePointFont(240, "宋体");
+    CFontCombo faces;
+    COrvFontComboBox plain;
+    for (CComboBox* combo : std::initializer_list<CComboBox*>{&faces, &plain}) {
+        create(*combo, CBS_DROPDOWNLIST);
+        EXPECT_EQ(18, combo->GetItemHeight(0));
+        combo->SetFont(&font);
+        EXPECT_LE(32, combo->GetItemHeight(0));
+        EXPECT_LE(combo->GetItemHeight(0), combo->GetItemHeight(-1));
+    }
+}
+
 TEST_F(FontPickers, FontsAreMadeForRowsInViewAndFreed) {
     CFontCombo combo;
     create(combo, CBS_DROPDOWNLIST);
-    CString name;
-    for (int i = 0; i < 500; ++i) {
-        name.Format("Face %03d", i);
-        combo.AddFont(name, 1);
-    }
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    combo.GetComboBoxInfo(&info);
-    const auto round = [&] {
+    const auto fillTo = [&](int count) {
+        CString name;
+        for (int i = combo.GetCount(); i < count; ++i) {
+            name.Format("Face %04d", i);
+            combo.AddFont(name, 1);
+        }
+    };
+    // The most handles that a page of rows took, and those that all pages left.
+    const HWND list = listOf(combo);
+    const auto scrollThrough = [&](int& most) {
+        CRect rc;
+        ::GetClientRect(list, &rc);
+        const int first = liveGdiHandles();
+        for (int top = 0; top < combo.GetCount(); top += rc.Height() / 18) {
+            ::SendMessage(list, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+            const int before = liveGdiHandles();
+            ::RedrawWindow(list, NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
+            most = std::max(most, liveGdiHandles() - before);
+        }
+        return liveGdiHandles() - first;
+    };
+    const auto round = [&](int count, int kept) {
         const int closed = liveGdiHandles();
         combo.ShowDropDown();
-        CRect list;
-        ::GetClientRect(info.hwndList, &list);
-        const int rows = list.Height() / 18 + 2; // cut ones at both ends
-        for (const int top : {0, 100, 300}) {
-            combo.SetTopIndex(top);
-            const int before = liveGdiHandles();
-            ::RedrawWindow(info.hwndList, NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
-            EXPECT_LE(liveGdiHandles() - before, rows) << top;
-            ::RedrawWindow(info.hwndList, NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
+        CRect rc;
+        ::GetClientRect(list, &rc);
+        int most = 0;
+        const int made = scrollThrough(most);
+        EXPECT_LE(most, rc.Height() / 18 + 2) << "cut rows at both ends";
+        EXPECT_LE(made, kept);
+        EXPECT_LE(std::min(count, kept) / 3, made) << "rows keep their fonts while the list is open";
+        if (count <= kept) {
+            EXPECT_EQ(0, scrollThrough(most)) << "one font a row";
         }
-        EXPECT_LE(closed + 3, liveGdiHandles()) << "rows keep their fonts while the list is open";
         combo.ShowDropDown(FALSE);
         dialog.settle();
+        return liveGdiHandles() - closed;
     };
-    round();
+    fillTo(500);
+    for (int i = 0; i < 2; ++i) // the system's own objects come in the first ones
+        round(500, 500);
+    EXPECT_EQ(0, round(500, 500));
+    fillTo(1400);
+    EXPECT_EQ(0, round(1400, 1000)) << "not every handle that the system has";
+    for (int i = 0; i < 50; ++i) {
+        combo.SetCurSel(i);
+        combo.UpdateWindow();
+    }
     const int before = liveGdiHandles();
-    round();
-    round();
-    EXPECT_EQ(before, liveGdiHandles());
+    for (int i = 50; i < 100; ++i) {
+        combo.SetCurSel(i);
+        combo.UpdateWindow();
+    }
+    EXPECT_EQ(before, liveGdiHandles()) << "the field of a closed list";
 }
 
 TEST_F(FontPickers, AFaceShowsItsNameInItselfWhereItCan) {
@@ -354,6 +463,13 @@ TEST_F(FontPickers, AFaceShowsItsNameInItselfWhereItCan) {
         EXPECT_EQ(::GetSysColor(COLOR_WINDOWTEXT), used.at(4, 9)) << "the mark of a face in use";
         EXPECT_EQ(COLORREF(0xFF8000), used.at(0, 0)) << "the frame of the selection";
     }
+    CFontObj with("a&b", 1), without("ab", 1);
+    Picture both(200, 18), letters(200, 18);
+    with.DrawItem(&both.dc, CRect(0, 0, 200, 18), 0);
+    without.DrawItem(&letters.dc, CRect(0, 0, 200, 18), 0);
+    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+    EXPECT_LT(letters.inked(window, 0, 200).Width(), both.inked(window, 0, 200).Width())
+        << "& is a character";
 }
 
 TEST_F(FontPickers, ThePlainPickerFillsItself) {
@@ -386,6 +502,14 @@ TEST_F(FontPickers, ThePlainPickerFillsItself) {
     combo.DrawItem(&item);
     EXPECT_EQ(RGB(2, 2, 2), picture.at(50, 1));
     EXPECT_LT(5, picture.inked(RGB(2, 2, 2), 0, 100).Width());
+}
+
+TEST_F(FontPickers, ThePlainPickerKeepsFontsOnlyWhereItCan) {
+    COrvFontComboBox combo;
+    ASSERT_TRUE(combo.SubclassDlgItem(IDC_NO_STRINGS, &dialog));
+    EXPECT_EQ(CB_ERR, combo.AddString("its address would be deleted as a font"));
+    combo.InitFonts();
+    EXPECT_EQ(0, combo.GetCount());
 }
 
 // --- shapes
