@@ -1,8 +1,5 @@
 #include "DibInfo.h"
 
-#include <algorithm>
-#include <new>
-
 namespace orv {
 
 void traceFault(DibFault fault) {
@@ -46,7 +43,8 @@ PlainRows::PlainRows(const COrvDib& dib) : rows() {
         ::GdiFlush();
     const BYTE* bits = dib.m_pBits;
     if (layout.isRunLength()) {
-        expanded_.reset(new (std::nothrow) BYTE[layout.rowsBytes]);
+        // A few runs may stand for a very large picture: zero memory costs nothing until it is touched.
+        expanded_.reset(static_cast<BYTE*>(::calloc(layout.rowsBytes, 1)));
         if (expanded_ == NULL || !expandRuns(layout, bits, expanded_.get()))
             return;
         bits = expanded_.get();

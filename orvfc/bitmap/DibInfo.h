@@ -6,6 +6,7 @@
 #include "DibPixels.h"
 
 #include <memory>
+#include <stdlib.h>
 
 namespace orv {
 
@@ -38,7 +39,10 @@ public:
     DibRows rows;
 
 private:
-    std::unique_ptr<BYTE[]> expanded_;
+    struct Free {
+        void operator()(BYTE* bytes) const { ::free(bytes); }
+    };
+    std::unique_ptr<BYTE, Free> expanded_;
 };
 
 inline HDC handleOf(CDC* pDC) {

@@ -120,8 +120,6 @@ DWORD whitePixel(const DibLayout& layout, const RGBQUAD* table) {
 }
 
 bool expandRuns(const DibLayout& layout, const BYTE* runs, BYTE* rows) {
-    if (rows != NULL)
-        memset(rows, 0, layout.rowsBytes);
     return RunReader(layout, runs, rows).read();
 }
 

@@ -76,9 +76,9 @@ struct DibRows {
 DWORD whitePixel(const DibLayout& layout, const RGBQUAD* table);
 
 // Turns the rows stored by a run-length bitmap into uncompressed bottom-up rows of layout.rowsBytes bytes,
-// which are zero where the runs skip. With rows NULL it only checks. FALSE when a run leaves the picture or
-// is cut short. A run over the bytes that an uncompressed row would be filled up with is no fault, nor is a
-// missing end mark.
+// all zero before: what the runs skip is not touched. With rows NULL it only checks. FALSE when a run leaves
+// the picture or is cut short. A run over the bytes that an uncompressed row would be filled up with is no
+// fault, nor is a missing end mark.
 bool expandRuns(const DibLayout& layout, const BYTE* runs, BYTE* rows);
 
 } // namespace orv

@@ -148,7 +148,10 @@ BOOL COrvDib::Expand() {
     plain.m_nHeaderOwner = ownerAllocation;
     plain.m_pBits = static_cast<BYTE*>(::operator new(layout.rowsBytes, std::nothrow));
     plain.m_nBitsOwner = ownerAllocation;
-    if (plain.m_pBits == NULL || !orv::expandRuns(layout, m_pBits, plain.m_pBits))
+    if (plain.m_pBits == NULL)
+        return FALSE;
+    memset(plain.m_pBits, 0, layout.rowsBytes);
+    if (!orv::expandRuns(layout, m_pBits, plain.m_pBits))
         return FALSE;
     plain.m_pInfoHeader->biCompression = BI_RGB;
     plain.m_pInfoHeader->biSizeImage = plain.m_dwImageBytes = layout.rowsBytes;

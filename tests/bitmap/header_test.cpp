@@ -23,7 +23,7 @@ DibFault readBytes(const Bytes& bytes, DibLayout& layout) {
     if (fault != DibFault::none || !layout.isRunLength())
         return fault;
     const Bytes runs(bytes.begin() + file.bfOffBits, bytes.begin() + file.bfOffBits + layout.imageBytes);
-    Bytes rows(layout.rowsBytes, 0xEE);
+    Bytes rows(layout.rowsBytes);
     const bool checked = expandRuns(layout, runs.data(), NULL);
     EXPECT_EQ(checked, expandRuns(layout, runs.data(), rows.data()));
     return checked ? DibFault::none : DibFault::runs;

@@ -76,7 +76,7 @@ TEST(BitmapPixels, Runs) {
                                    0};
         DibLayout layout;
         ASSERT_EQ(DibFault::none, readDibHeader(&header, ~0ULL, layout)) << row.name;
-        Bytes rows(layout.rowsBytes, 0xEE);
+        Bytes rows(layout.rowsBytes);
         ASSERT_TRUE(expandRuns(layout, row.runs.data(), rows.data())) << row.name;
         std::string pixels;
         for (int y = 0; y < 2; ++y) {
