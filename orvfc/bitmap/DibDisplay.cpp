@@ -159,6 +159,51 @@ void visibleBox(HDC dc, const orv::DibVector (&corners)[4], RECT& box) {
     }
 }
 
+bool drawTurned(HDC dc, HPALETTE palette, const orv::PlainRows& plain, CPoint origin, CSize size,
+                double angle) {
+    POINT edges[3] = {origin, moved(origin, CSize(size.cx, 0)), moved(origin, CSize(0, size.cy))};
+    ::LPtoDP(dc, edges, 3);
+    const orv::DibVector corner = {double(edges[0].x), double(edges[0].y)};
+    const auto edge = [&](int i) {
+        return orv::turned({edges[i].x - corner.x, edges[i].y - corner.y}, angle);
+    };
+    const orv::DibVector across = edge(1), down = edge(2);
+    const orv::DibTurn turn(corner, across, down, plain.layout.width, plain.layout.height);
+    if (!turn.isDrawable())
+        return false;
+    const SavedDc saved(dc);
+    selectPalette(dc, palette);
+    useDevicePixels(dc);
+    RECT box;
+    const orv::DibVector corners[4] = {corner,
+                                       {corner.x + across.x, corner.y + across.y},
+                                       {corner.x + down.x, corner.y + down.y},
+                                       {corner.x + across.x + down.x, corner.y + across.y + down.y}};
+    visibleBox(dc, corners, box);
+    if (box.left >= box.right || box.top >= box.bottom)
+        return true;
+    try {
+        return TurnedDrawing(dc, plain, turn, box).draw();
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+// Whether a display is to show a picture of many more pixels than there is place for. Some systems turn all
+// of it into the display's own pixels before they choose the few: seconds and a gigabyte for a large sheet.
+// Metafiles and printers get the whole picture.
+bool isFarLarger(HDC dc, const orv::DibLayout& layout, CPoint origin, CSize size) {
+    const DWORD kind = ::GetObjectType(dc);
+    if ((kind != OBJ_DC && kind != OBJ_MEMDC) || ::GetDeviceCaps(dc, TECHNOLOGY) != DT_RASDISPLAY)
+        return false;
+    POINT corners[2] = {origin, moved(origin, size)};
+    ::LPtoDP(dc, corners, 2);
+    const double place =
+        std::fabs((double(corners[1].x) - corners[0].x) * (double(corners[1].y) - corners[0].y));
+    constexpr double farLarger = 4;
+    return place > 0 && double(layout.width) * layout.height > farLarger * place;
+}
+
 } // namespace
 
 UINT COrvDib::UsePalette(CDC* pDC, int background) {
@@ -187,9 +232,12 @@ BOOL COrvDib::Draw(CDC* pDC, CPoint origin, CSize size) {
     const orv::PlainRows plain(*this);
     if (dc == NULL || !plain.isGood() || size.cx == 0 || size.cy == 0)
         return FALSE;
+    const bool smooth = ::GetStretchBltMode(dc) == HALFTONE;
+    if (!smooth && isFarLarger(dc, plain.layout, origin, size))
+        return drawTurned(dc, m_hPal, plain, origin, size, 0);
     const SavedDc saved(dc);
     selectPalette(dc, m_hPal);
-    if (::GetStretchBltMode(dc) != HALFTONE)
+    if (!smooth)
         ::SetStretchBltMode(dc, COLORONCOLOR);
     moveMirrored(dc, origin, size);
     return isDone(::StretchDIBits(dc, origin.x, origin.y, size.cx, size.cy, 0, 0, plain.layout.width,
@@ -202,32 +250,7 @@ BOOL COrvDib::Draw(CDC* pDC, CPoint origin, CSize size, double angle) {
     const orv::PlainRows plain(*this);
     if (dc == NULL || !plain.isGood() || !std::isfinite(angle))
         return FALSE;
-    POINT edges[3] = {origin, moved(origin, CSize(size.cx, 0)), moved(origin, CSize(0, size.cy))};
-    ::LPtoDP(dc, edges, 3);
-    const orv::DibVector corner = {double(edges[0].x), double(edges[0].y)};
-    const auto edge = [&](int i) {
-        return orv::turned({edges[i].x - corner.x, edges[i].y - corner.y}, angle);
-    };
-    const orv::DibVector across = edge(1), down = edge(2);
-    const orv::DibTurn turn(corner, across, down, plain.layout.width, plain.layout.height);
-    if (!turn.isDrawable())
-        return FALSE;
-    const SavedDc saved(dc);
-    selectPalette(dc, m_hPal);
-    useDevicePixels(dc);
-    RECT box;
-    const orv::DibVector corners[4] = {corner,
-                                       {corner.x + across.x, corner.y + across.y},
-                                       {corner.x + down.x, corner.y + down.y},
-                                       {corner.x + across.x + down.x, corner.y + across.y + down.y}};
-    visibleBox(dc, corners, box);
-    if (box.left >= box.right || box.top >= box.bottom)
-        return TRUE;
-    try {
-        return TurnedDrawing(dc, plain, turn, box).draw();
-    } catch (const std::bad_alloc&) {
-        return FALSE;
-    }
+    return drawTurned(dc, m_hPal, plain, origin, size, angle);
 }
 
 HBITMAP COrvDib::CreateSection(CDC* pDC) {

@@ -109,8 +109,9 @@ public:
     BOOL SetSystemPalette(CDC* pDC);
 
     // Into the rectangle of logical units whose corner is origin; negative sizes mirror. Stretched as the
-    // device context's stretch mode says when that is HALFTONE, else by leaving out or repeating pixels.
-    // FALSE when there is nothing to draw or to draw in.
+    // device context's stretch mode says when that is HALFTONE, else by leaving out or repeating pixels: what
+    // a display shows of a much larger picture costs as much as what is seen. FALSE when there is nothing to
+    // draw or to draw in.
     BOOL Draw(CDC* pDC, CPoint origin, CSize size);
     // The same rectangle turned about origin, its left-top corner, by angle in radians, counter-clockwise as
     // seen on the screen. Each device pixel whose centre is covered takes the picture's pixel there; nothing

@@ -8,6 +8,24 @@ using namespace orv::test;
 
 namespace {
 
+// Each pixel against the definition: turned back about the origin it lies in the picture or is left alone.
+void expectTurned(Paper& paper, const Depth& depth, CPoint origin, CSize size, double angle, CRect clip) {
+    for (int y = 0; y < paper.height; ++y) {
+        for (int x = 0; x < paper.width; ++x) {
+            const double dx = x + 0.5 - origin.x, dy = y + 0.5 - origin.y;
+            const double across = (dx * cos(angle) - dy * sin(angle)) / size.cx * 7;
+            const double down = (dx * sin(angle) + dy * cos(angle)) / size.cy * 5;
+            const double hair = 1e-9;
+            if (fabs(across - round(across)) < hair || fabs(down - round(down)) < hair)
+                continue;
+            const bool inside =
+                across > 0 && across < 7 && down > 0 && down < 5 && clip.PtInRect(CPoint(x, y));
+            const COLORREF expected = inside ? pictureColor(depth, int(across), int(down)) : kWhite;
+            ASSERT_EQ(expected, paper.at(x, y)) << x << ", " << y;
+        }
+    }
+}
+
 TEST(BitmapDrawing, StretchedAtEveryDepth) {
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
@@ -27,26 +45,12 @@ TEST(BitmapDrawing, StretchedAtEveryDepth) {
                 }
             }
         }
+        // Many pixels for few: those in the middle are shown.
+        paper.clear();
+        ASSERT_TRUE(dib.Draw(&paper.dc, CPoint(6, 2), CSize(-3, 2)));
+        expectTurned(paper, depth, CPoint(6, 2), CSize(-3, 2), 0, CRect(0, 0, 40, 40));
         EXPECT_EQ(BLACKONWHITE, paper.dc.GetStretchBltMode());
         EXPECT_EQ(CPoint(0, 0), paper.dc.GetViewportOrg());
-    }
-}
-
-// Each pixel against the definition: turned back about the origin it lies in the picture or is left alone.
-void expectTurned(Paper& paper, const Depth& depth, CPoint origin, CSize size, double angle, CRect clip) {
-    for (int y = 0; y < paper.height; ++y) {
-        for (int x = 0; x < paper.width; ++x) {
-            const double dx = x + 0.5 - origin.x, dy = y + 0.5 - origin.y;
-            const double across = (dx * cos(angle) - dy * sin(angle)) / size.cx * 7;
-            const double down = (dx * sin(angle) + dy * cos(angle)) / size.cy * 5;
-            const double hair = 1e-9;
-            if (fabs(across - round(across)) < hair || fabs(down - round(down)) < hair)
-                continue;
-            const bool inside =
-                across > 0 && across < 7 && down > 0 && down < 5 && clip.PtInRect(CPoint(x, y));
-            const COLORREF expected = inside ? pictureColor(depth, int(across), int(down)) : kWhite;
-            ASSERT_EQ(expected, paper.at(x, y)) << x << ", " << y;
-        }
     }
 }
 
