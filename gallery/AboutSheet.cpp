@@ -1,3 +1,4 @@
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 #include <orvfc/ORVFC.h>
@@ -7,17 +8,9 @@
 namespace gallery {
 namespace {
 
-constexpr int leftEdge = 48;
-constexpr int rightEdge = 1232;
 constexpr int columns[] = {300, 770}; // of the two modules
 constexpr int columnWidth = 440;
 constexpr int rowHeight = 34;
-
-constexpr COLORREF inkColor = RGB(32, 32, 36);
-constexpr COLORREF noteColor = RGB(112, 112, 120);
-constexpr COLORREF ruleColor = RGB(222, 222, 226);
-constexpr COLORREF headColor = RGB(243, 245, 249);
-constexpr COLORREF nameColor = RGB(31, 78, 157);
 
 struct TextRow {
     const char* label;
@@ -57,9 +50,8 @@ CString timeText(const FILETIME& time) {
 class AboutSheet {
 public:
     explicit AboutSheet(CDC& dc) : m_dc(dc), m_library(CSysInfo::GetAppPath() + "ORVFC.dll") {
-        createFont(m_titleFont, 36);
-        createFont(m_nameFont, 22);
-        createFont(m_textFont, 17);
+        Label::setFace(m_nameFont, 22);
+        Label::setFace(m_textFont, 17);
         dc.SetBkMode(TRANSPARENT);
     }
 
@@ -70,26 +62,19 @@ private:
     void moduleRow(const char* label, const CString& program, const CString& library);
     void systemRow(const char* label, const CString& value);
     void rule();
-    void createFont(CFont& font, int height);
-    void text(CFont& font, COLORREF color, int x, int width, const CString& text);
+    void text(COrvFont& font, COLORREF color, int x, int width, const CString& text);
 
     CDC& m_dc;
-    CFont m_titleFont;
-    CFont m_nameFont;
-    CFont m_textFont;
+    COrvFont m_nameFont;
+    COrvFont m_textFont;
     COrvVersion m_program; // the one that runs
     COrvVersion m_library;
-    int m_top = 34; // of the row in hand
+    int m_top = 96; // of the row in hand
 };
 
-void AboutSheet::createFont(CFont& font, int height) {
-    font.CreateFont(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
-                    CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, "WenQuanYi Zen Hei");
-}
-
 // In the middle of a row's height; a text that is too wide ends in dots.
-void AboutSheet::text(CFont& font, COLORREF color, int x, int width, const CString& text) {
-    CFont* previous = m_dc.SelectObject(&font);
+void AboutSheet::text(COrvFont& font, COLORREF color, int x, int width, const CString& text) {
+    CFont* previous = m_dc.SelectObject(font.GetFont());
     m_dc.SetTextColor(color);
     CRect box(x, m_top, x + width, m_top + rowHeight);
     m_dc.DrawText(text, &box, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
@@ -105,7 +90,7 @@ void AboutSheet::moduleHeads() {
     m_dc.FillSolidRect(leftEdge, m_top, rightEdge - leftEdge, rowHeight + 12, headColor);
     m_top += 6;
     for (int i = 0; i < 2; ++i)
-        text(m_nameFont, nameColor, columns[i], columnWidth,
+        text(m_nameFont, accentColor, columns[i], columnWidth,
              GetFileNameExistExtend(modules[i]->m_Info.strFilePath));
     m_top += rowHeight + 6;
 }
@@ -130,8 +115,7 @@ void AboutSheet::systemRow(const char* label, const CString& value) {
 }
 
 void AboutSheet::draw() {
-    text(m_titleFont, inkColor, leftEdge, rightEdge - leftEdge, "关于  About");
-    m_top = 96;
+    drawTitle(m_dc, "关于  About");
     moduleHeads();
     for (const TextRow& row : textRows)
         moduleRow(row.label, m_program.m_Info.*row.text, m_library.m_Info.*row.text);

@@ -1,3 +1,4 @@
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 #include "LineStyles.h"
@@ -10,19 +11,12 @@
 namespace gallery {
 namespace {
 
-constexpr int leftEdge = 48;
-constexpr int rightEdge = 1232;
 constexpr int bandTop = 156;
 constexpr int bandHeight = 222;
 const CSize chartSize(208, 120);
 const CSize stretchedSize(156, 190);
 constexpr int upright = 236, stretched = 470, turnedCell = 652, colors = 920; // left edges of the cells
 constexpr int swatches = 190;                                                 // side of all colours together
-constexpr double thirtyDegrees = 3.1415926 / 6;
-
-constexpr COLORREF inkColor = RGB(32, 32, 36);
-constexpr COLORREF noteColor = RGB(112, 112, 120);
-constexpr COLORREF ruleColor = RGB(222, 222, 226);
 
 struct Depth {
     int bits;
@@ -41,7 +35,7 @@ constexpr Depth depths[] = {
 
 // The chart's own colours; from the ninth on those of its ramp. The first two serve one bit.
 constexpr COLORREF chartColors[16] = {
-    RGB(255, 255, 255), inkColor,           RGB(31, 78, 157),   RGB(178, 58, 46),
+    RGB(255, 255, 255), inkColor,           accentColor,        markColor,
     RGB(46, 125, 80),   RGB(222, 160, 40),  RGB(200, 204, 212), RGB(120, 124, 136),
     RGB(32, 48, 104),   RGB(24, 96, 160),   RGB(32, 144, 176),  RGB(88, 184, 160),
     RGB(152, 208, 128), RGB(216, 216, 104), RGB(240, 168, 72),  RGB(224, 96, 56),
@@ -115,12 +109,7 @@ BOOL makeChart(COrvDib& dib, int bits) {
 
 class BitmapSheet {
 public:
-    explicit BitmapSheet(CDC& dc) : m_dc(dc) {
-        createFont(m_titleFont, 36);
-        createFont(m_nameFont, 25);
-        createFont(m_textFont, 16);
-        dc.SetBkMode(TRANSPARENT);
-    }
+    explicit BitmapSheet(CDC& dc) : m_dc(dc) {}
 
     void draw();
 
@@ -129,30 +118,18 @@ private:
     void band(const Depth& depth, int top);
     void palette(COrvDib& dib, CPoint corner);
     void frame(CPoint corner, CSize size);
-    void createFont(CFont& font, int height);
-    void text(CFont& font, COLORREF color, int x, int y, const CString& text);
+    void text(Label& label, COLORREF color, int x, int y, const CString& text) {
+        label.draw(m_dc, color, x, y, text);
+    }
 
     CDC& m_dc;
-    CFont m_titleFont;
-    CFont m_nameFont;
-    CFont m_textFont;
+    Label m_name{25};
+    Label m_text{16};
 };
 
-void BitmapSheet::createFont(CFont& font, int height) {
-    font.CreateFont(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
-                    CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, "WenQuanYi Zen Hei");
-}
-
-void BitmapSheet::text(CFont& font, COLORREF color, int x, int y, const CString& text) {
-    CFont* previous = m_dc.SelectObject(&font);
-    m_dc.SetTextColor(color);
-    m_dc.TextOut(x, y, text);
-    m_dc.SelectObject(previous);
-}
-
 void BitmapSheet::headings() {
-    text(m_titleFont, inkColor, leftEdge, 34, "位图  Bitmaps");
-    text(m_textFont, noteColor, leftEdge, 86,
+    drawTitle(m_dc, "位图  Bitmaps");
+    text(m_text, noteColor, leftEdge, 86,
          "One chart, drawn by the library into a COrvDib of each depth; the files lie beside this sheet.");
     const struct {
         int left;
@@ -163,7 +140,7 @@ void BitmapSheet::headings() {
                  {turnedCell, "旋转30度  turned by 30 degrees"},
                  {colors, "调色板  colour table"}};
     for (const auto& cell : cells)
-        text(m_textFont, noteColor, cell.left, 122, cell.heading);
+        text(m_text, noteColor, cell.left, 122, cell.heading);
 }
 
 void BitmapSheet::frame(CPoint corner, CSize size) {
@@ -177,7 +154,7 @@ void BitmapSheet::frame(CPoint corner, CSize size) {
 void BitmapSheet::palette(COrvDib& dib, CPoint corner) {
     const int count = dib.m_nColorTableEntries;
     if (count == 0) {
-        text(m_textFont, noteColor, corner.x, corner.y + 6, "none: every pixel holds its colour");
+        text(m_text, noteColor, corner.x, corner.y + 6, "none: every pixel holds its colour");
         return;
     }
     int across = 1;
@@ -197,17 +174,17 @@ void BitmapSheet::palette(COrvDib& dib, CPoint corner) {
 
 void BitmapSheet::band(const Depth& depth, int top) {
     m_dc.FillSolidRect(leftEdge, top, rightEdge - leftEdge, 1, ruleColor);
-    text(m_nameFont, inkColor, leftEdge, top + 16, depth.name);
-    text(m_textFont, noteColor, leftEdge, top + 54, depth.note);
+    text(m_name, inkColor, leftEdge, top + 16, depth.name);
+    text(m_text, noteColor, leftEdge, top + 54, depth.note);
     COrvDib dib;
     if (!makeChart(dib, depth.bits)) {
-        text(m_textFont, noteColor, upright, top + 54, "There was no memory for this one.");
+        text(m_text, noteColor, upright, top + 54, "There was no memory for this one.");
         return;
     }
     CString size;
     size.Format("%u bytes", dib.GetFileLength());
-    text(m_textFont, noteColor, leftEdge, top + 78, size);
-    text(m_textFont, noteColor, leftEdge, top + 102, depth.fileName);
+    text(m_text, noteColor, leftEdge, top + 78, size);
+    text(m_text, noteColor, leftEdge, top + 102, depth.fileName);
 
     const CPoint asItIs(upright, top + 16), wide(stretched, top + 16);
     dib.Draw(&m_dc, asItIs, chartSize);
@@ -215,7 +192,7 @@ void BitmapSheet::band(const Depth& depth, int top) {
     dib.Draw(&m_dc, wide, stretchedSize);
     frame(wide, stretchedSize);
     // The left-top corner stays; the right one rises by half the width.
-    dib.Draw(&m_dc, CPoint(turnedCell, top + 6 + chartSize.cx / 2), chartSize, thirtyDegrees);
+    dib.Draw(&m_dc, CPoint(turnedCell, top + 6 + chartSize.cx / 2), chartSize, 30 * degree);
     palette(dib, CPoint(colors, top + 16));
 }
 

@@ -1,3 +1,4 @@
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 #include "LineStyles.h"
@@ -5,16 +6,10 @@
 namespace gallery {
 namespace {
 
-constexpr int leftEdge = 48;
-constexpr int rightEdge = 1232;
 constexpr int bandTop = 168;
 constexpr int bandHeight = 120;
 constexpr int lineStep = 31; // from one line of a cell to the next
 constexpr int linesInCell = 3;
-
-constexpr COLORREF inkColor = RGB(32, 32, 36);
-constexpr COLORREF noteColor = RGB(112, 112, 120);
-constexpr COLORREF ruleColor = RGB(222, 222, 226);
 
 struct Stroke {
     int width;
@@ -25,8 +20,8 @@ struct Stroke {
 
 constexpr Stroke strokes[linesInCell] = {
     {1, 6, inkColor, "width 1"},
-    {3, 10, RGB(31, 78, 157), "width 3"},
-    {6, 16, RGB(178, 58, 46), "width 6"},
+    {3, 10, accentColor, "width 3"},
+    {6, 16, markColor, "width 6"},
 };
 
 // The shapes of a row. number: which of the lines in the cell.
@@ -81,12 +76,7 @@ using Notes = const char* [3]; // the lines under a name
 
 class LineSheet {
 public:
-    explicit LineSheet(CDC& dc) : m_dc(dc) {
-        createFont(m_titleFont, 36);
-        createFont(m_nameFont, 25);
-        createFont(m_textFont, 16);
-        dc.SetBkMode(TRANSPARENT);
-    }
+    explicit LineSheet(CDC& dc) : m_dc(dc) {}
 
     void draw();
 
@@ -98,33 +88,20 @@ private:
     void magnify(CPoint from, CPoint to);
     void emptyBand(int type);
 
-    void createFont(CFont& font, int height);
-    void text(CFont& font, COLORREF color, int x, int y, const CString& text);
+    void text(Label& label, COLORREF color, int x, int y, const CString& text) {
+        label.draw(m_dc, color, x, y, text);
+    }
     CPoint cellOrigin(const Cell& cell) const { return {cell.left, m_bandTop + 16}; }
     template <class Trace>
     void path(Trace trace);
 
     CDC& m_dc;
-    CFont m_titleFont;
-    CFont m_nameFont;
-    CFont m_textFont;
+    Label m_name{25};
+    Label m_text{16};
     LineStyles m_styles;
     CLineTypeSet m_names;
     int m_bandTop = bandTop - bandHeight; // of the band in hand
 };
-
-// A Chinese face by its character set: the system has its own choice where this one is not installed.
-void LineSheet::createFont(CFont& font, int height) {
-    font.CreateFont(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
-                    CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, "WenQuanYi Zen Hei");
-}
-
-void LineSheet::text(CFont& font, COLORREF color, int x, int y, const CString& text) {
-    CFont* previous = m_dc.SelectObject(&font);
-    m_dc.SetTextColor(color);
-    m_dc.TextOut(x, y, text);
-    m_dc.SelectObject(previous);
-}
 
 template <class Trace>
 void LineSheet::path(Trace trace) {
@@ -134,18 +111,18 @@ void LineSheet::path(Trace trace) {
 }
 
 void LineSheet::headings() {
-    text(m_titleFont, inkColor, leftEdge, 34, "线型  Line types");
-    text(m_textFont, noteColor, leftEdge, 86,
+    drawTitle(m_dc, "线型  Line types");
+    text(m_text, noteColor, leftEdge, 86,
          "Patterns keep their lengths whatever the width; they run on round every corner.");
     int x = cells[2].left;
     for (const Stroke& stroke : strokes) {
-        text(m_textFont, stroke.color, x, 86, stroke.legend);
+        text(m_text, stroke.color, x, 86, stroke.legend);
         x += 96;
     }
     for (const Cell& cell : cells) {
-        text(m_textFont, noteColor, cell.left, 136, cell.heading);
+        text(m_text, noteColor, cell.left, 136, cell.heading);
     }
-    text(m_textFont, noteColor, leftEdge, 136, "名称  name and way");
+    text(m_text, noteColor, leftEdge, 136, "名称  name and way");
 }
 
 // A new band with its rule and label.
@@ -154,10 +131,10 @@ void LineSheet::band(int type, const Notes& notes) {
     m_dc.FillSolidRect(leftEdge, m_bandTop, rightEdge - leftEdge, 1, ruleColor);
     CString name;
     name.Format("%s  %d", m_names.GetLineName(type), type);
-    text(m_nameFont, inkColor, leftEdge, m_bandTop + 14, name);
+    text(m_name, inkColor, leftEdge, m_bandTop + 14, name);
     int y = m_bandTop + 50;
     for (const char* note : notes) {
-        text(m_textFont, noteColor, leftEdge, y, note != NULL ? note : "");
+        text(m_text, noteColor, leftEdge, y, note != NULL ? note : "");
         y += 22;
     }
 }
@@ -190,9 +167,9 @@ void LineSheet::singleTent(int type) {
     magnify(cellOrigin(cells[0]) + CPoint(-4, lineStep + 13), {cells[2].left, m_bandTop + 13});
     CString note;
     note.Format("Draw returned %d", result);
-    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 28, "the left end");
-    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 52, "8 times as large");
-    text(m_textFont, noteColor, cells[2].left + 112, m_bandTop + 76, note);
+    text(m_text, noteColor, cells[2].left + 112, m_bandTop + 28, "the left end");
+    text(m_text, noteColor, cells[2].left + 112, m_bandTop + 52, "8 times as large");
+    text(m_text, noteColor, cells[2].left + 112, m_bandTop + 76, note);
 }
 
 // A small square of the sheet, eight times as large, in a frame.
@@ -214,7 +191,7 @@ void LineSheet::emptyBand(int type) {
     m_dc.AbortPath();
     CString note;
     note.Format("This row is empty on purpose: type 5 is no line. Draw was called and returned %d.", result);
-    text(m_textFont, noteColor, cells[0].left, m_bandTop + 44, note);
+    text(m_text, noteColor, cells[0].left, m_bandTop + 44, note);
 }
 
 void LineSheet::draw() {

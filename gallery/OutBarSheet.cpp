@@ -1,6 +1,7 @@
 // The outlook bar in its states: both views, hover, a drag, renaming, a pressed arrow.
 
 #include "BarIcons.h"
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 #include <orvfc/ORVFC.h>
@@ -35,9 +36,9 @@ public:
     }
 
     void draw(CDC& dc, CPoint at, const char* caption) {
-        dc.TextOut(at.x, at.y, CString(caption));
+        drawCaption(dc, at, caption);
         const int saved = dc.SaveDC();
-        dc.OffsetViewportOrg(at.x, at.y + 30);
+        dc.OffsetViewportOrg(at.x, at.y + captionRoom);
         bar.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
         for (CWnd* child = bar.GetTopWindow(); child != NULL; child = child->GetWindow(GW_HWNDNEXT)) {
             CRect place;
@@ -102,22 +103,18 @@ const struct {
 } // namespace
 
 void drawOutBarSheet(CDC& dc) {
-    CFont font;
-    font.CreatePointFont(110, "SimSun");
-    CFont* old = dc.SelectObject(&font);
-    dc.TextOut(48, 48, CString("文件夹栏"));
+    drawTitle(dc, "文件夹栏");
     int number = 0;
     for (const auto& state : states) {
         ShownBar shown;
         if (!shown.make()) {
-            dc.TextOut(48, 90, CString("没有屏幕，控件无法显示"));
+            drawNoScreen(dc);
             break;
         }
         state.prepare(shown.bar);
         shown.draw(dc, CPoint(48 + number % 5 * 240, 110 + number / 5 * (height + 70)), state.caption);
         ++number;
     }
-    dc.SelectObject(old);
 }
 
 } // namespace gallery

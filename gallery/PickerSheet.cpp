@@ -3,6 +3,7 @@
 
 #include "PickerPage.h"
 #include "ScreenCopy.h"
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 namespace gallery {
@@ -15,8 +16,8 @@ constexpr int tileWidth = 240;
 
 void drawTile(CDC& dc, int number, const char* caption, const CRect& from) {
     const CPoint at(48 + number * tileWidth, tilesTop);
-    dc.TextOut(at.x, at.y, CString(caption));
-    copyScreen(dc, at + CSize(0, 30), from);
+    drawCaption(dc, at, caption);
+    copyScreen(dc, at + CSize(0, captionRoom), from);
 }
 
 void drawPalette(CDC& dc, CColorPicker& picker) {
@@ -28,7 +29,7 @@ void drawPalette(CDC& dc, CColorPicker& picker) {
     CRect field, palette;
     picker.GetWindowRect(&field);
     ::GetWindowRect(picker.GetPaletteWindow(), &palette);
-    dc.TextOut(832, 120, CString("调色板"));
+    drawCaption(dc, CPoint(832, 120), "调色板");
     copyScreen(dc, CPoint(832, 150), field);
     const CPoint below(832, 150 + palette.top - field.top);
     copyScreen(dc, below, palette);
@@ -40,10 +41,7 @@ void drawPalette(CDC& dc, CColorPicker& picker) {
 } // namespace
 
 void drawPickerSheet(CDC& dc) {
-    CFont font;
-    font.CreatePointFont(110, "SimSun");
-    CFont* old = dc.SelectObject(&font);
-    dc.TextOut(48, 48, CString("线与填充的选择控件"));
+    drawTitle(dc, "线与填充的选择控件");
     CWnd frame;
     PickerPage* page = NULL;
     if (frame.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, pageSize.cx, pageSize.cy,
@@ -51,8 +49,7 @@ void drawPickerSheet(CDC& dc) {
         page = PickerPage::make(frame, 1);
     }
     if (page == NULL) {
-        dc.TextOut(48, 90, CString("没有屏幕，控件无法显示"));
-        dc.SelectObject(old);
+        drawNoScreen(dc);
         return;
     }
     page->MoveWindow(0, 0, pageSize.cx, pageSize.cy);
@@ -79,9 +76,8 @@ void drawPickerSheet(CDC& dc) {
         tile.combo.EnableWindow(FALSE);
     }
     page->m_picker.EnableWindow(FALSE);
-    dc.TextOut(832, 330, CString("不可用"));
+    drawCaption(dc, CPoint(832, 330), "不可用");
     copyScreen(dc, CPoint(832, 360), CRect(24 + 110, 24, 24 + 110 + 210, 24 + 3 * 40));
-    dc.SelectObject(old);
 }
 
 } // namespace gallery

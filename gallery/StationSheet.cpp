@@ -1,7 +1,7 @@
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 #include "Fit.h"
-#include "Label.h"
 #include "LineStyles.h"
 #include "WktNames.h"
 
@@ -22,14 +22,10 @@ constexpr int gauge = 7;
 constexpr int nameHeight = 18;
 constexpr int dotRadius = 4;
 constexpr int trackRoom = 7; // kept free on both sides of the track
-constexpr double degree = 3.14159265358979323846 / 180;
 
-constexpr COLORREF inkColor = RGB(32, 32, 36);
-constexpr COLORREF noteColor = RGB(112, 112, 120);
 constexpr COLORREF leaderColor = RGB(168, 168, 176);
 constexpr COLORREF coastColor = RGB(120, 160, 190);
 constexpr COLORREF riverColor = RGB(170, 205, 228);
-constexpr COLORREF dotColor = RGB(178, 58, 46);
 
 std::string_view sample(const char* name) {
     HRSRC found = ::FindResourceA(NULL, name, MAKEINTRESOURCEA(sampleType));
@@ -196,7 +192,7 @@ void StationSheet::draw() {
     if (m_track.size() < 2)
         return;
     CPen leader(PS_SOLID, 1, leaderColor);
-    CBrush dot(dotColor);
+    CBrush dot(markColor);
     CPen* previousPen = m_dc.SelectObject(&leader);
     CBrush* previousBrush = m_dc.SelectObject(&dot);
     for (const WktName& name : namedPoints(sample("RAILWAY")))

@@ -2,6 +2,7 @@
 // and the lists of its font pickers.
 
 #include "ScreenCopy.h"
+#include "SheetStyle.h"
 #include "Sheets.h"
 
 #include <orvfc/ORVFC.h>
@@ -19,8 +20,8 @@ struct Shown {
 void copyWindow(CDC& dc, const CWnd& window, const Shown& place) {
     CRect rect;
     window.GetWindowRect(&rect);
-    dc.TextOut(place.at.x, place.at.y, CString(place.caption));
-    copyScreen(dc, place.at + CSize(0, 30), rect);
+    drawCaption(dc, place.at, place.caption);
+    copyScreen(dc, place.at + CSize(0, captionRoom), rect);
 }
 
 void drawAlone(CDC& dc, CWnd& frame, DWORD enable, const Shown& place) {
@@ -73,8 +74,8 @@ void drawLists(CDC& dc, CWnd& frame) {
         auto& combo = *static_cast<CComboBox*>(page.GetDlgItem(list.id));
         combo.SetFocus();
         combo.ShowDropDown();
-        dc.TextOut(list.place.at.x, list.place.at.y, CString(list.place.caption));
-        copyScreen(dc, list.place.at + CSize(0, 30), withList(combo));
+        drawCaption(dc, list.place.at, list.place.caption);
+        copyScreen(dc, list.place.at + CSize(0, captionRoom), withList(combo));
         combo.ShowDropDown(FALSE);
     }
     page.DestroyWindow();
@@ -83,10 +84,7 @@ void drawLists(CDC& dc, CWnd& frame) {
 } // namespace
 
 void drawTextPropertySheet(CDC& dc) {
-    CFont font;
-    font.CreatePointFont(110, "SimSun");
-    CFont* const old = dc.SelectObject(&font);
-    dc.TextOut(48, 48, CString("文本属性页"));
+    drawTitle(dc, "文本属性页");
     CWnd frame;
     if (frame.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, 0, 0, 640, 560, NULL,
                        NULL)) {
@@ -95,9 +93,8 @@ void drawTextPropertySheet(CDC& dc) {
         drawAlone(dc, frame, 0, {"不可修改", {48, 500}});
         drawLists(dc, frame);
     } else {
-        dc.TextOut(48, 90, CString("没有屏幕，控件无法显示"));
+        drawNoScreen(dc);
     }
-    dc.SelectObject(old);
 }
 
 } // namespace gallery

@@ -1,20 +1,12 @@
+#include "SheetStyle.h"
 #include "Sheets.h"
-
-#include "Label.h"
 
 // One paragraph in every way that COrvDrawText has: turned, aligned, spaced, framed, broken and not.
 
 namespace gallery {
 namespace {
 
-constexpr int leftEdge = 48;
-constexpr int rightEdge = 1232;
-constexpr double degree = 3.14159265358979323846 / 180;
-
-constexpr COLORREF inkColor = RGB(32, 32, 36);
-constexpr COLORREF noteColor = RGB(112, 112, 120);
 constexpr COLORREF frameColor = RGB(206, 210, 218);
-constexpr COLORREF accentColor = RGB(31, 78, 157);
 constexpr COLORREF paperColor = RGB(252, 246, 226);
 
 const char paragraph[] = "京沪铁路 runs from 北京 to 上海,\r\n1318 kilometres 经天津、济南、南京。";
@@ -36,7 +28,6 @@ private:
     COrvDrawText block(int height) const;
 
     CDC& m_dc;
-    Label m_title{36};
     Label m_heading{20};
     Label m_note{14};
 };
@@ -181,7 +172,7 @@ void TextSheet::styled() {
 }
 
 void TextSheet::draw() {
-    m_title.draw(m_dc, inkColor, leftEdge, 34, "文本  Texts");
+    drawTitle(m_dc, "文本  Texts");
     note(leftEdge, 88,
          "One paragraph of Chinese and Latin in turned rectangles. Grey: the rectangle as it was given.");
     turned();

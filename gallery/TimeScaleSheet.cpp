@@ -1,6 +1,6 @@
+#include "SheetStyle.h"
 #include "Sheets.h"
 
-#include "Label.h"
 #include "LineStyles.h"
 
 #include <afxdisp.h>
@@ -13,17 +13,10 @@
 namespace gallery {
 namespace {
 
-constexpr int leftEdge = 48;
 constexpr int rowHeight = 26;
 constexpr int rowsOfScale = 3;
 constexpr int laneHeight = 38;
 constexpr int columnPadding = 3; // on both sides of a label
-
-constexpr COLORREF inkColor = RGB(32, 32, 36);
-constexpr COLORREF noteColor = RGB(112, 112, 120);
-constexpr COLORREF ruleColor = RGB(214, 214, 220);
-constexpr COLORREF headColor = RGB(243, 245, 249);
-constexpr COLORREF eventColor = RGB(178, 58, 46);
 
 struct Day {
     int year, month, day;
@@ -39,7 +32,7 @@ struct Phase {
     COLORREF color;
 };
 constexpr Phase phases[] = {
-    {"地火转移", {2020, 7, 23}, {2021, 2, 10}, 3, 5, RGB(31, 78, 157)},
+    {"地火转移", {2020, 7, 23}, {2021, 2, 10}, 3, 5, accentColor},
     {"停泊轨道", {2021, 2, 24}, {2021, 5, 15}, 2, 5, RGB(46, 125, 82)},
     {"中继轨道", {2021, 5, 17}, {2021, 11, 8}, 4, 5, RGB(140, 82, 160)},
     {"着陆平台检查", {2021, 5, 15}, {2021, 5, 22}, 1, 5, RGB(190, 120, 20)},
@@ -95,7 +88,6 @@ private:
     }
 
     CDC& m_dc;
-    Label m_title{36};
     Label m_name{20};
     Label m_text{14};
     LineStyles m_styles;
@@ -141,8 +133,8 @@ void TimeScaleSheet::scaleRow(const ScaleRow& row, int top, bool finest) {
 
 void TimeScaleSheet::eventMark(int x, int y) {
     const CPoint corners[] = {{x, y - 7}, {x + 7, y}, {x, y + 7}, {x - 7, y}};
-    CBrush brush(eventColor);
-    CPen pen(PS_SOLID, 1, eventColor);
+    CBrush brush(markColor);
+    CPen pen(PS_SOLID, 1, markColor);
     CBrush* previousBrush = m_dc.SelectObject(&brush);
     CPen* previousPen = m_dc.SelectObject(&pen);
     m_dc.Polygon(corners, 4);
@@ -166,7 +158,7 @@ void TimeScaleSheet::eventLane() {
         const int left = std::max(leftEdge, std::min(x - width / 2, right - width));
         const int below = left < ends[0] + 8 && left >= ends[1];
         ends[below] = left + width;
-        text(m_text, eventColor, left, below ? middle + 9 : m_top, label);
+        text(m_text, markColor, left, below ? middle + 9 : m_top, label);
     }
     m_top += 62;
 }
@@ -227,7 +219,7 @@ void TimeScaleSheet::scale(const Scale& scale) {
 }
 
 void TimeScaleSheet::draw() {
-    text(m_title, inkColor, leftEdge, 34, "时间刻度  Time scales");
+    drawTitle(m_dc, "时间刻度  Time scales");
     text(m_text, noteColor, leftEdge, 88,
          "天问一号 2020-2021: one plan under three scales. Columns are as wide as the widest label of their "
          "style.");
