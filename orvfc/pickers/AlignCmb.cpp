@@ -41,7 +41,11 @@ UINT CFontAlignCmb::GetCurrentAlignType() const {
 void CFontAlignCmb::SetCurrentAlignType(UINT nFlag) {
     if (!m_hWnd)
         return;
-    const int nRow = FindRecord<CCmbFontAlignData>(
+    int nRow = FindRecord<CCmbFontAlignData>(
         [nFlag](const CCmbFontAlignData& row) { return row.GetFlag() == nFlag; });
-    SetCurSel(nRow >= 0 ? nRow : AddItem(static_cast<int>(nFlag)));
+    if (nRow < 0) {
+        DeleteOwnRow();
+        nRow = InsertOwnRow(-1, new (std::nothrow) CCmbFontAlignData(nFlag));
+    }
+    SetCurSel(nRow);
 }

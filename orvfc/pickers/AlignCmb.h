@@ -27,7 +27,7 @@ public:
     void Init(); // adds 0, 1, 2, 3, 5, 6 and 7
     int AddItem(int nFlag);
     UINT GetCurrentAlignType() const; // 0 when nothing is selected
-    // A flag that no row has gets a row at the end.
+    // A flag that no row has gets a row at the end, in place of the one before it.
     void SetCurrentAlignType(UINT nFlag);
 
 protected:

@@ -109,7 +109,7 @@ END_MESSAGE_MAP()
 
 CFontCombo::CFontCombo() : CFontCombo(0) {}
 
-CFontCombo::CFontCombo(int nStyle) : m_pCollected(NULL), m_nStyle(nStyle), m_nFonts(0), m_pOwnRow(NULL) {}
+CFontCombo::CFontCombo(int nStyle) : m_pCollected(NULL), m_nStyle(nStyle), m_nFonts(0) {}
 
 BOOL CFontCombo::PreCreateWindow(CREATESTRUCT& cs) {
     if (!(cs.style & CBS_DROPDOWNLIST))
@@ -201,9 +201,9 @@ int CFontCombo::AddFont(CString strFace, DWORD dwFlags) {
     auto* pThere = static_cast<CFontObj*>(GetRecord(nPlace));
     if (pThere == NULL || pThere->GetName().CompareNoCase(strFace) != 0)
         return InsertRecord(nPlace, new (std::nothrow) CFontObj(strFace, dwFlags));
-    if (pThere == m_pOwnRow) {
-        *pThere = CFontObj(strFace, dwFlags); // one of the list's from now on
-        m_pOwnRow = NULL;
+    if (IsOwnRow(pThere)) {
+        *pThere = CFontObj(strFace, dwFlags);
+        KeepOwnRow();
     }
     return nPlace;
 }
@@ -225,9 +225,8 @@ void CFontCombo::SetCurrentFontName(CString strFace) {
         return;
     int nRow = FindFace(strFace);
     if (nRow < 0 && !orv::hasField(*this) && !strFace.IsEmpty()) {
-        DeleteRecord(m_pOwnRow);
-        nRow = InsertRecord(PlaceOf(strFace), new (std::nothrow) CFontObj(strFace, 0));
-        m_pOwnRow = GetRecord(nRow);
+        DeleteOwnRow();
+        nRow = InsertOwnRow(PlaceOf(strFace), new (std::nothrow) CFontObj(strFace, 0));
     }
     SetCurSel(nRow);
     m_strCurrent = strFace; // the row's may be written otherwise
@@ -280,12 +279,6 @@ int CFontCombo::SetCurrentFont() {
     TakeTypedFace();
     SetCurrentFontName(m_strCurrent);
     return m_hWnd != NULL && FindFace(m_strCurrent) >= 0;
-}
-
-void CFontCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
-    if (lpDeleteItemStruct->itemData == reinterpret_cast<ULONG_PTR>(m_pOwnRow))
-        m_pOwnRow = NULL;
-    COrvRecordCombo::DeleteItem(lpDeleteItemStruct);
 }
 
 // --- what the user does

@@ -67,18 +67,18 @@ public:
     // A name that no row has stands in the field (of a drop-down list: in a row of its own) and is current.
     void SetCurrentFontName(CString strFace);
 
-    int GetStyleCode() const { return m_nStyle; }
-    void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
-    void Dump(CDumpContext& dc) const override;
-
-protected:
+    // For EnumFontFamiliesEx, lThis being the combo that a face is added to. Of a screen's fonts TrueType
+    // ones count, but for those that also have the type bit 0x4000; of a printer's, for hosts that enumerate
+    // its device context, all that can be scaled.
     static int CALLBACK EnumFamScreenCallBackEx(const LOGFONT* plf, const TEXTMETRIC* ptm, DWORD nFontType,
                                                 LPARAM lThis);
-    // The same of printer fonts, for hosts that enumerate a printer's device context: scalable ones count as
-    // well.
     static int CALLBACK EnumFamPrinterCallBackEx(const LOGFONT* plf, const TEXTMETRIC* ptm, DWORD nFontType,
                                                  LPARAM lThis);
 
+    int GetStyleCode() const { return m_nStyle; }
+    void Dump(CDumpContext& dc) const override;
+
+protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
     void DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& rc, int nState) override;
@@ -108,6 +108,5 @@ private:
     struct Collected;
     Collected* m_pCollected; // while the system enumerates
     int m_nStyle;
-    int m_nFonts;             // made since they were freed
-    COrvCmbRecord* m_pOwnRow; // the row that SetCurrentFontName added; null: none
+    int m_nFonts; // made since they were freed
 };

@@ -1,5 +1,7 @@
 #include "OrvFontComboBox.h"
 
+#include <new>
+
 #include "FontChoice.h"
 #include "ShapedFont.h"
 
@@ -31,7 +33,7 @@ COrvFontComboBox::COrvFontComboBox() : COrvFontComboBox(ORVFONTS_OWN_FACE) {}
 
 COrvFontComboBox::COrvFontComboBox(OrvFontComboStyle nStyle)
     : m_nStyle(nStyle), m_crHilightText(kOfTheSystem), m_crHilightBack(kOfTheSystem),
-      m_crNormalText(kOfTheSystem), m_crNormalBack(kOfTheSystem), m_bFilled(FALSE), m_bFilling(FALSE) {}
+      m_crNormalText(kOfTheSystem), m_crNormalBack(kOfTheSystem), m_bFilled(FALSE) {}
 
 // A window that outlives its object would keep the fonts for ever.
 COrvFontComboBox::~COrvFontComboBox() {
@@ -112,8 +114,9 @@ int CALLBACK COrvFontComboBox::EnumFontProc(const LOGFONT* plf, const TEXTMETRIC
     if (nFontType != TRUETYPE_FONTTYPE || combo.FindStringExact(-1, plf->lfFaceName) != CB_ERR)
         return TRUE;
     const int nItem = combo.AddString(plf->lfFaceName);
-    if (nItem >= 0)
-        combo.SetItemDataPtr(nItem, new LOGFONT(*plf));
+    if (nItem >= 0) // past WindowProc, which keeps others from doing this
+        combo.DefWindowProc(CB_SETITEMDATA, static_cast<WPARAM>(nItem),
+                            reinterpret_cast<LPARAM>(new (std::nothrow) LOGFONT(*plf)));
     return TRUE;
 }
 
@@ -128,12 +131,10 @@ void COrvFontComboBox::FillFonts() {
     if (!m_hWnd || !OwnsFonts())
         return;
     m_bFilled = TRUE;
-    m_bFilling = TRUE;
     CClientDC dc(this);
     LOGFONT any = {};
     any.lfCharSet = DEFAULT_CHARSET;
     ::EnumFontFamiliesExA(dc.m_hDC, &any, EnumFontProc, reinterpret_cast<LPARAM>(this), 0);
-    m_bFilling = FALSE;
 }
 
 int COrvFontComboBox::GetSelFont(LOGFONT& lf) const {
@@ -147,9 +148,8 @@ int COrvFontComboBox::GetSelFont(LOGFONT& lf) const {
 
 LRESULT COrvFontComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     // Somebody else's pointer would be deleted as a font.
-    const bool setsData = message == CB_SETITEMDATA && !m_bFilling;
     const bool addsData = message == CB_ADDSTRING || message == CB_INSERTSTRING || message == CB_DIR;
-    if (setsData || (addsData && !OwnsFonts()))
+    if (message == CB_SETITEMDATA || (addsData && !OwnsFonts()))
         return CB_ERR;
     const LRESULT nResult = CComboBox::WindowProc(message, wParam, lParam);
     if (message == WM_SETFONT)

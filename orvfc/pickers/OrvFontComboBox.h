@@ -31,6 +31,9 @@ public:
     void FillFonts(); // adds the system's fonts; a face that is there already is not added again
     // The selected row's LOGFONT. FALSE, and lf stays, when none is selected.
     int GetSelFont(LOGFONT& lf) const;
+    // For EnumFontFamiliesEx, lThis being the combo: adds a font of type 4, TrueType and nothing else.
+    static int CALLBACK EnumFontProc(const LOGFONT* plf, const TEXTMETRIC* ptm, DWORD nFontType,
+                                     LPARAM lThis);
 
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override; // 18 pixels, more for a high font
@@ -41,8 +44,6 @@ protected:
     // The name of the row, in its own face or in the combo's font. The row's background is drawn.
     virtual void DrawFont(CDC* pDC, const CRect& rc, const LOGFONT& lf);
     virtual void DrawDefault(CDC* pDC, const CRect& rc, const LOGFONT& lf);
-    static int CALLBACK EnumFontProc(const LOGFONT* plf, const TEXTMETRIC* ptm, DWORD nFontType,
-                                     LPARAM lThis);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PreSubclassWindow() override;
@@ -58,6 +59,5 @@ private:
 
     OrvFontComboStyle m_nStyle;
     COLORREF m_crHilightText, m_crHilightBack, m_crNormalText, m_crNormalBack;
-    BOOL m_bFilled;  // this window's list has been filled
-    BOOL m_bFilling; // the combo itself sets item data
+    BOOL m_bFilled; // this window's list has been filled
 };

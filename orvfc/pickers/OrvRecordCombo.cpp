@@ -20,7 +20,7 @@ ON_CONTROL_REFLECT_EX(CBN_SELCHANGE, &COrvRecordCombo::OnReflectSelchange)
 END_MESSAGE_MAP()
 
 COrvRecordCombo::COrvRecordCombo(CWnd* pMessageWnd, int nRowHeight)
-    : m_pMessageWnd(pMessageWnd), m_nRowHeight(nRowHeight) {}
+    : m_pMessageWnd(pMessageWnd), m_pOwnRow(NULL), m_nRowHeight(nRowHeight) {}
 
 // A window that outlives its object would keep the records for ever.
 COrvRecordCombo::~COrvRecordCombo() {
@@ -105,6 +105,8 @@ void COrvRecordCombo::SetRecord(int nIndex, COrvCmbRecord* pRecord) {
 
 COrvCmbRecord* COrvRecordCombo::TakeRecord(int nIndex) {
     COrvCmbRecord* pRecord = GetRecord(nIndex);
+    if (IsOwnRow(pRecord))
+        KeepOwnRow();
     if (pRecord)
         SetRecord(nIndex, NULL);
     if (m_hWnd)
@@ -118,12 +120,18 @@ COrvCmbRecord* COrvRecordCombo::GetRecord(int nIndex) const {
     return static_cast<COrvCmbRecord*>(GetItemDataPtr(nIndex));
 }
 
-void COrvRecordCombo::DeleteRecord(const COrvCmbRecord* pRecord) {
-    for (int i = pRecord && m_hWnd ? GetCount() : 0; i-- > 0;)
-        if (GetRecord(i) == pRecord) {
+void COrvRecordCombo::DeleteOwnRow() {
+    for (int i = m_pOwnRow && m_hWnd ? GetCount() : 0; i-- > 0;)
+        if (GetRecord(i) == m_pOwnRow) {
             DeleteString(static_cast<UINT>(i));
             return;
         }
+}
+
+int COrvRecordCombo::InsertOwnRow(int nIndex, COrvCmbRecord* pRecord) {
+    const int nItem = InsertRecord(nIndex, pRecord);
+    m_pOwnRow = GetRecord(nItem);
+    return nItem;
 }
 
 int COrvRecordCombo::FindNamed(const CString& strName) const {
@@ -171,7 +179,10 @@ void COrvRecordCombo::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
 }
 
 void COrvRecordCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
-    delete reinterpret_cast<COrvCmbRecord*>(lpDeleteItemStruct->itemData);
+    auto* const pRecord = reinterpret_cast<COrvCmbRecord*>(lpDeleteItemStruct->itemData);
+    if (pRecord == m_pOwnRow)
+        m_pOwnRow = NULL;
+    delete pRecord;
     lpDeleteItemStruct->itemData = 0;
 }
 

@@ -69,8 +69,12 @@ protected:
     COrvCmbRecord* TakeRecord(int nIndex);
     // NULL for an index that there is not, and for an item without record.
     COrvCmbRecord* GetRecord(int nIndex) const;
-    // The record's item goes. Null, or a record that no item has: nothing happens.
-    void DeleteRecord(const COrvCmbRecord* pRecord);
+    // A row of the combo's own for a value that no row of the host has, one at a time: the one before it goes
+    // first, so that its place can be looked for among the others.
+    void DeleteOwnRow();
+    int InsertOwnRow(int nIndex, COrvCmbRecord* pRecord);
+    BOOL IsOwnRow(const COrvCmbRecord* pRecord) const { return pRecord && pRecord == m_pOwnRow; }
+    void KeepOwnRow() { m_pOwnRow = NULL; } // no more the combo's own
     // add(row) for each row of a set: the number of items that came. Null: 0.
     template <class Set, class Add>
     static int AddRows(Set* pSet, Add add) {
@@ -130,6 +134,7 @@ private:
     LRESULT GiveText(WPARAM nRoom, LPARAM lpBuffer) const;
 
     CWnd* m_pMessageWnd;
+    COrvCmbRecord* m_pOwnRow; // owned by its item; null: none
     int m_nRowHeight;
     COrvTypedText m_typed;
 };

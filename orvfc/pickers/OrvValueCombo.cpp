@@ -18,8 +18,7 @@ void COrvCmbValueRecord::DrawItem(CDC* pDC, const CRect& rc, int nState) {
     orv::paintPlainRow(pDC, rc, GetName(), nState);
 }
 
-COrvValueCombo::COrvValueCombo(double dLow, double dHigh)
-    : m_dLow(dLow), m_dHigh(dHigh), m_dCurrent(0), m_pOwnRow(NULL) {}
+COrvValueCombo::COrvValueCombo(double dLow, double dHigh) : m_dLow(dLow), m_dHigh(dHigh), m_dCurrent(0) {}
 
 BOOL COrvValueCombo::PreCreateWindow(CREATESTRUCT& cs) {
     if (!(cs.style & CBS_DROPDOWNLIST))
@@ -52,12 +51,6 @@ BOOL COrvValueCombo::TakeChosenRow() {
     return TRUE;
 }
 
-void COrvValueCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {
-    if (lpDeleteItemStruct->itemData == reinterpret_cast<ULONG_PTR>(m_pOwnRow))
-        m_pOwnRow = NULL;
-    COrvRecordCombo::DeleteItem(lpDeleteItemStruct);
-}
-
 // --- the current value
 
 int COrvValueCombo::SetCurrent(double dValue) {
@@ -65,9 +58,8 @@ int COrvValueCombo::SetCurrent(double dValue) {
         return FALSE;
     int nRow = FindValue(dValue);
     if (nRow < 0 && !orv::hasField(*this)) {
-        DeleteRecord(m_pOwnRow);
-        nRow = InsertRecord(-1, NewRecord(dValue));
-        m_pOwnRow = GetRecord(nRow);
+        DeleteOwnRow();
+        nRow = InsertOwnRow(-1, NewRecord(dValue));
     }
     SetCurSel(nRow);
     m_dCurrent = dValue; // the row's may differ a little

@@ -30,7 +30,6 @@ public:
     // What stands in the field is taken, or put right. TRUE when it was a number of the picker's range.
     int TakeTypedText();
 
-    void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
     void Dump(CDumpContext& dc) const override;
 
 protected:
@@ -67,5 +66,4 @@ private:
 
     double m_dLow, m_dHigh;
     double m_dCurrent;
-    COrvCmbRecord* m_pOwnRow; // the row that SetCurrent added; null: none
 };

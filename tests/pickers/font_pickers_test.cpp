@@ -1,12 +1,8 @@
-// The pickers of faces, sizes, slopes, spacings, alignments and shapes.
+// The pickers of sizes, slopes, spacings, alignments and shapes.
 
-#include "pickers_test.h"
+#include "font_pickers_test.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cmath>
-#include <functional>
 
 #include "support/debug_events.h"
 #include "support/gdi_count.h"
@@ -14,81 +10,6 @@
 using namespace orv::test;
 
 namespace {
-
-// Also notes the command behind a choice.
-class CFontDlg : public CPickerDlg {
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_COMMAND && wParam == 1)
-            told.push_back("command of " + std::to_string(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
-        if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED && LOWORD(wParam) == IDC_BUTTON)
-            told.push_back("clicked");
-        return CPickerDlg::WindowProc(message, wParam, lParam);
-    }
-};
-
-std::string textOf(const CWnd& window) {
-    CString text;
-    window.GetWindowText(text);
-    return static_cast<LPCTSTR>(text);
-}
-
-std::string rowTexts(const CComboBox& combo) {
-    std::string texts;
-    for (int i = 0; i < combo.GetCount(); ++i) {
-        CString text;
-        combo.GetLBText(i, text);
-        texts += static_cast<LPCTSTR>(text) + std::string(" ");
-    }
-    return texts;
-}
-
-HWND fieldOf(const CComboBox& combo) {
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    combo.GetComboBoxInfo(&info);
-    return info.hwndItem;
-}
-
-class FontPickers : public testing::Test {
-protected:
-    void SetUp() override { ASSERT_TRUE(dialog.open()); }
-    void create(CComboBox& combo, DWORD style = CBS_DROPDOWN) {
-        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | style,
-                                 CRect(10, 130, 200, 330), &dialog, 7));
-    }
-    // Into the field of a combo, over what is there.
-    void type(CComboBox& combo, const char* text) {
-        ::SetFocus(fieldOf(combo));
-        ASSERT_TRUE(waitUntil([&] { return ::GetFocus() == fieldOf(combo); }));
-        combo.SetEditSel(0, -1);
-        typeText(wideText(text));
-        ASSERT_TRUE(waitUntil([&] { return textOf(combo) == text; })) << textOf(combo);
-    }
-    // A key as the program's own message loop has it, until the condition holds.
-    void pressInLoop(WORD key, const std::function<bool()>& condition) {
-        dialog.settle();
-        pressKey(key);
-        EXPECT_TRUE(waitInLoop(condition));
-    }
-    bool waitInLoop(const std::function<bool()>& condition) {
-        MSG message;
-        return waitUntil([&] {
-            while (!condition() && ::PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
-                if (!dialog.WalkPreTranslateTree(dialog.m_hWnd, &message)) {
-                    ::TranslateMessage(&message);
-                    ::DispatchMessage(&message);
-                }
-            return condition();
-        });
-    }
-    void leave() {
-        CWnd* other = dialog.GetDlgItem(IDC_OTHER);
-        other->SetFocus();
-        ASSERT_TRUE(waitUntil([&] { return ::GetFocus() == other->m_hWnd; }));
-    }
-    CFontDlg dialog;
-};
 
 // --- numbers
 
@@ -170,8 +91,11 @@ TEST_F(FontPickers, ValuesThatNoRowHoldsAreShownAllTheSame) {
     aligns.Init();
     aligns.SetCurrentAlignType(6);
     EXPECT_EQ(5, aligns.GetCurSel());
-    aligns.SetCurrentAlignType(99);
-    EXPECT_EQ(99u, aligns.GetCurrentAlignType());
+    for (const UINT flag : {99u, 4u}) {
+        aligns.SetCurrentAlignType(flag);
+        EXPECT_EQ(flag, aligns.GetCurrentAlignType());
+        EXPECT_EQ(8, aligns.GetCount()) << "one row at a time";
+    }
     CFontShapeCmb shapes;
     create(shapes, CBS_DROPDOWNLIST);
     shapes.Init();
@@ -263,253 +187,31 @@ TEST_F(FontPickers, ASizeIsReportedInOrder) {
     EXPECT_EQ(15, angles.GetCurrentAngle());
 }
 
-// --- faces
-
-int CALLBACK keepTrueType(const LOGFONT* plf, const TEXTMETRIC*, DWORD type, LPARAM faces) {
-    if ((type & TRUETYPE_FONTTYPE) && !(type & 0x4000))
-        reinterpret_cast<std::vector<std::string>*>(faces)->push_back(plf->lfFaceName);
-    return TRUE;
-}
-
-std::vector<std::string> systemFaces() {
-    std::vector<std::string> faces;
-    CClientDC dc(NULL);
-    LOGFONT any = {};
-    ::EnumFontFamiliesExA(dc.m_hDC, &any, keepTrueType, reinterpret_cast<LPARAM>(&faces), 0);
-    std::sort(faces.begin(), faces.end());
-    faces.erase(std::unique(faces.begin(), faces.end()), faces.end());
-    return faces;
-}
-
-TEST_F(FontPickers, FacesAreTheSystemsInAlphabeticalOrder) {
-    CFontCombo combo;
-    create(combo);
-    combo.Initialize();
-    std::vector<std::string> shown;
-    for (int i = 0; i < combo.GetCount(); ++i) {
-        CString text;
-        combo.GetLBText(i, text);
-        EXPECT_TRUE(shown.empty() || text.CompareNoCase(shown.back().c_str()) > 0) << text;
-        shown.push_back(static_cast<LPCTSTR>(text));
+TEST_F(FontPickers, RowsAreTheTextsOfTheirValues) {
+    CCmbFontSizeData size(10.5);
+    CCmbFontAslopeData angle(300);
+    CCmbCharSpaceData space(2);
+    CCmbFontAlignData align(3);
+    CCmbFontShapeData regular(ORVSHAPE_REGULAR), italic(ORVSHAPE_ITALIC);
+    const struct {
+        COrvCmbRecord& row;
+        const char* text;
+        bool same;
+    } rows[] = {{size, "10.50", true},     {angle, "300.00", true}, {space, "2.0磅", true},
+                {align, "分散对齐", true}, {regular, "常规", true}, {italic, "斜体", false}};
+    const CRect rc(0, 0, 80, 18);
+    for (const auto& row : rows) {
+        Picture drawn(80, 18), text(80, 18);
+        row.row.DrawItem(&drawn.dc, rc, 0);
+        text.dc.FillSolidRect(&rc, ::GetSysColor(COLOR_WINDOW));
+        text.dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        CRect rcText(3, 0, 80, 18);
+        text.dc.DrawText(row.text, &rcText, DT_SINGLELINE | DT_VCENTER);
+        int different = 0;
+        for (int i = 0; i < 80 * 18; ++i)
+            different += drawn.at(i % 80, i / 80) != text.at(i % 80, i / 80);
+        EXPECT_EQ(row.same, different == 0) << row.text;
     }
-    std::sort(shown.begin(), shown.end());
-    EXPECT_EQ(systemFaces(), shown);
-    const int count = combo.GetCount();
-    const int added = combo.AddFont("Mmm", 5);
-    CString text;
-    combo.GetLBText(added, text);
-    EXPECT_STREQ("Mmm", text);
-    EXPECT_EQ(added, combo.AddFont("mmm", 5)) << "there already";
-    EXPECT_EQ(count + 1, combo.GetCount());
-    EXPECT_TRUE(combo.SetFontInUse("MMM"));
-    EXPECT_FALSE(combo.SetFontInUse("nobody's face"));
-    combo.SetCurrentFontName("没有的字体");
-    combo.Initialize();
-    EXPECT_EQ(count, combo.GetCount());
-    EXPECT_STREQ("没有的字体", combo.GetCurrentFontName());
-    EXPECT_EQ("没有的字体", textOf(combo));
-    EXPECT_FALSE(combo.SetCurrentFont());
-}
-
-TEST_F(FontPickers, AFaceIsChosenOrTyped) {
-    CFontCombo combo;
-    create(combo);
-    for (const char* face : {"Beta", "Alpha", "Alpha Black"})
-        combo.AddFont(face, 1);
-    combo.SetCurrentFontName("Alpha");
-    EXPECT_EQ(0, combo.GetCurSel());
-    ::SetFocus(fieldOf(combo));
-    pressKey(VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 3; }));
-    EXPECT_EQ("CBN_SELCHANGE 7; WM_FONT_NAME_CMB_SELCHANGE 7 0; command of 7; ", dialog.toldText());
-    EXPECT_STREQ("Alpha Black", combo.GetCurrentFontName());
-    dialog.told.clear();
-    type(combo, "beta");
-    EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 2; })) << "a pause in the typing";
-    EXPECT_STREQ("Beta", combo.GetCurrentFontName());
-    EXPECT_EQ("beta", textOf(combo));
-    leave();
-    EXPECT_EQ("Beta", textOf(combo));
-    type(combo, "Alp");
-    leave();
-    EXPECT_EQ("Beta", textOf(combo)) << "no face of that name";
-    dialog.settle();
-    EXPECT_EQ("WM_FONT_NAME_CMB_SELCHANGE 7 0; command of 7; ", dialog.toldText());
-}
-
-TEST_F(FontPickers, AFaceIsTypedWithEnterAndIntoTheOpenList) {
-    CFontCombo combo;
-    create(combo);
-    for (const char* face : {"Alpha", "Beta", "Gamma", "中易宋体", "中易黑体"})
-        combo.AddFont(face, 1);
-    combo.SetInit();
-    EXPECT_STREQ("Alpha", combo.GetCurrentFontName());
-    type(combo, "beta");
-    pressInLoop(VK_RETURN, [&] { return textOf(combo) == "Beta"; });
-    EXPECT_STREQ("Beta", combo.GetCurrentFontName());
-    pressInLoop(VK_F4, [&] { return combo.GetDroppedState() != 0; });
-    type(combo, "中易宋");
-    pressInLoop(VK_RETURN, [&] { return textOf(combo) == "中易宋体"; });
-    EXPECT_TRUE(waitUntil([&] { return combo.GetCurrentFontName() == "中易宋体"; }));
-    // A list without a selection takes what the field begins, and nobody is told by the system.
-    type(combo, "Ga");
-    const auto current = [&] { return std::string(combo.GetCurrentFontName()); };
-    combo.SendMessage(WM_TIMER, 1); // the typing has paused
-    combo.ShowDropDown();
-    EXPECT_TRUE(waitUntil([&] { return current() == textOf(combo); })) << current() << textOf(combo);
-    EXPECT_EQ("Gamma", current());
-}
-
-TEST_F(FontPickers, ADropDownListKeepsItsAlphabet) {
-    CFontCombo combo;
-    create(combo, CBS_DROPDOWNLIST);
-    for (const char* face : {"Gamma", "Alpha"})
-        combo.AddFont(face, 1);
-    combo.SetCurrentFontName("Delta");
-    combo.SetCurrentFontName("Beta");
-    EXPECT_EQ("Alpha Beta Gamma ", rowTexts(combo)) << "one foreign name at a time";
-    EXPECT_EQ(1, combo.AddFont("Beta", 1)) << "no more a foreign one";
-    combo.SetCurrentFontName("Delta");
-    EXPECT_EQ("Alpha Beta Delta Gamma ", rowTexts(combo));
-    EXPECT_EQ(2, combo.GetCurSel());
-}
-
-TEST_F(FontPickers, RowsAreAsHighAsTheirFont) {
-    CFont font;
-    font.CreatePointFont(240, "宋体");
-    CFontCombo faces;
-    COrvFontComboBox plain;
-    for (CComboBox* combo : std::initializer_list<CComboBox*>{&faces, &plain}) {
-        create(*combo, CBS_DROPDOWNLIST);
-        EXPECT_EQ(18, combo->GetItemHeight(0));
-        combo->SetFont(&font);
-        EXPECT_LE(32, combo->GetItemHeight(0));
-        EXPECT_LE(combo->GetItemHeight(0), combo->GetItemHeight(-1));
-    }
-}
-
-TEST_F(FontPickers, FontsAreMadeForRowsInViewAndFreed) {
-    CFontCombo combo;
-    create(combo, CBS_DROPDOWNLIST);
-    const auto fillTo = [&](int count) {
-        CString name;
-        for (int i = combo.GetCount(); i < count; ++i) {
-            name.Format("Face %04d", i);
-            combo.AddFont(name, 1);
-        }
-    };
-    // The most handles that a page of rows took, and those that all pages left.
-    const HWND list = listOf(combo);
-    const auto scrollThrough = [&](int& most) {
-        CRect rc;
-        ::GetClientRect(list, &rc);
-        const int first = liveGdiHandles();
-        for (int top = 0; top < combo.GetCount(); top += rc.Height() / 18) {
-            ::SendMessage(list, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
-            const int before = liveGdiHandles();
-            ::RedrawWindow(list, NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
-            most = std::max(most, liveGdiHandles() - before);
-        }
-        return liveGdiHandles() - first;
-    };
-    const auto round = [&](int count, int kept) {
-        const int closed = liveGdiHandles();
-        combo.ShowDropDown();
-        CRect rc;
-        ::GetClientRect(list, &rc);
-        int most = 0;
-        const int made = scrollThrough(most);
-        EXPECT_LE(most, rc.Height() / 18 + 2) << "cut rows at both ends";
-        EXPECT_LE(made, kept);
-        EXPECT_LE(std::min(count, kept) / 3, made) << "rows keep their fonts while the list is open";
-        if (count <= kept) {
-            EXPECT_EQ(0, scrollThrough(most)) << "one font a row";
-        }
-        combo.ShowDropDown(FALSE);
-        dialog.settle();
-        return liveGdiHandles() - closed;
-    };
-    fillTo(500);
-    for (int i = 0; i < 2; ++i) // the system's own objects come in the first ones
-        round(500, 500);
-    EXPECT_EQ(0, round(500, 500));
-    fillTo(1400);
-    EXPECT_EQ(0, round(1400, 1000)) << "not every handle that the system has";
-    for (int i = 0; i < 50; ++i) {
-        combo.SetCurSel(i);
-        combo.UpdateWindow();
-    }
-    const int before = liveGdiHandles();
-    for (int i = 50; i < 100; ++i) {
-        combo.SetCurSel(i);
-        combo.UpdateWindow();
-    }
-    EXPECT_EQ(before, liveGdiHandles()) << "the field of a closed list";
-}
-
-TEST_F(FontPickers, AFaceShowsItsNameInItselfWhereItCan) {
-    const std::vector<std::string> faces = systemFaces();
-    ASSERT_FALSE(faces.empty());
-    for (const std::string& face : {faces.front(), std::string("没有的字体"), std::string(10000, 'x')}) {
-        CFontObj row(face.c_str(), 1);
-        Picture used(200, 18), unused(200, 18);
-        row.DrawItem(&unused.dc, CRect(0, 0, 200, 18), 0);
-        row.SetFontInUse(TRUE);
-        CFontObj copy(row);
-        copy.DrawItem(&used.dc, CRect(0, 0, 200, 18), ODS_SELECTED);
-        const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-        EXPECT_LT(10, unused.inked(window, 10, 200).Width()) << face.substr(0, 40);
-        EXPECT_EQ(window, unused.at(4, 9));
-        EXPECT_EQ(::GetSysColor(COLOR_WINDOWTEXT), used.at(4, 9)) << "the mark of a face in use";
-        EXPECT_EQ(COLORREF(0xFF8000), used.at(0, 0)) << "the frame of the selection";
-    }
-    CFontObj with("a&b", 1), without("ab", 1);
-    Picture both(200, 18), letters(200, 18);
-    with.DrawItem(&both.dc, CRect(0, 0, 200, 18), 0);
-    without.DrawItem(&letters.dc, CRect(0, 0, 200, 18), 0);
-    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-    EXPECT_LT(letters.inked(window, 0, 200).Width(), both.inked(window, 0, 200).Width())
-        << "& is a character";
-}
-
-TEST_F(FontPickers, ThePlainPickerFillsItself) {
-    COrvFontComboBox combo(ORVFONTS_INTERFACE);
-    combo.SetHilightColors(RGB(1, 1, 1), RGB(2, 2, 2));
-    combo.SetNormalColors(RGB(3, 3, 3), RGB(4, 4, 4));
-    ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
-    EXPECT_TRUE(waitUntil([&] { return combo.GetCount() > 0; }));
-    const int count = combo.GetCount();
-    combo.FillFonts();
-    EXPECT_EQ(count, combo.GetCount()) << "no face twice";
-    LOGFONT lf = {};
-    EXPECT_FALSE(combo.GetSelFont(lf));
-    combo.SetCurSel(count - 1);
-    EXPECT_TRUE(combo.GetSelFont(lf));
-    CString text;
-    combo.GetLBText(count - 1, text);
-    EXPECT_STREQ(lf.lfFaceName, text);
-    EXPECT_EQ(CB_ERR, combo.SetItemData(0, 0x1234)) << "would be deleted as a font";
-    combo.AddString("no data");
-    Picture picture(100, 18);
-    DRAWITEMSTRUCT item = {};
-    item.hDC = picture.dc.m_hDC;
-    item.rcItem = {0, 0, 100, 18};
-    combo.DrawItem(&item);
-    EXPECT_EQ(RGB(4, 4, 4), picture.at(50, 1)) << "no data: no name";
-    EXPECT_EQ(0, picture.inked(RGB(4, 4, 4), 0, 100).right & ~INT_MIN);
-    item.itemData = reinterpret_cast<ULONG_PTR>(&lf);
-    item.itemState = ODS_SELECTED;
-    combo.DrawItem(&item);
-    EXPECT_EQ(RGB(2, 2, 2), picture.at(50, 1));
-    EXPECT_LT(5, picture.inked(RGB(2, 2, 2), 0, 100).Width());
-}
-
-TEST_F(FontPickers, ThePlainPickerKeepsFontsOnlyWhereItCan) {
-    COrvFontComboBox combo;
-    ASSERT_TRUE(combo.SubclassDlgItem(IDC_NO_STRINGS, &dialog));
-    EXPECT_EQ(CB_ERR, combo.AddString("its address would be deleted as a font"));
-    combo.InitFonts();
-    EXPECT_EQ(0, combo.GetCount());
 }
 
 // --- shapes

@@ -1,0 +1,86 @@
+#pragma once
+
+// A dialog in which font pickers are created and typed into.
+
+#include "pickers_test.h"
+
+#include <gtest/gtest.h>
+
+namespace orv::test {
+
+// Also notes the command behind a choice.
+class CFontDlg : public CPickerDlg {
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_COMMAND && wParam == 1)
+            told.push_back("command of " + std::to_string(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam))));
+        if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED && LOWORD(wParam) == IDC_BUTTON)
+            told.push_back("clicked");
+        return CPickerDlg::WindowProc(message, wParam, lParam);
+    }
+};
+
+inline std::string textOf(const CWnd& window) {
+    CString text;
+    window.GetWindowText(text);
+    return static_cast<LPCTSTR>(text);
+}
+
+inline std::string rowTexts(const CComboBox& combo) {
+    std::string texts;
+    for (int i = 0; i < combo.GetCount(); ++i) {
+        CString text;
+        combo.GetLBText(i, text);
+        texts += static_cast<LPCTSTR>(text) + std::string(" ");
+    }
+    return texts;
+}
+
+inline HWND fieldOf(const CComboBox& combo) {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    combo.GetComboBoxInfo(&info);
+    return info.hwndItem;
+}
+
+class FontPickers : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(dialog.open()); }
+    void create(CComboBox& combo, DWORD style = CBS_DROPDOWN) {
+        ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | style,
+                                 CRect(10, 130, 200, 330), &dialog, 7));
+    }
+    // Into the field of a combo, over what is there.
+    void type(CComboBox& combo, const char* text) {
+        ::SetFocus(fieldOf(combo));
+        ASSERT_TRUE(waitUntil([&] { return ::GetFocus() == fieldOf(combo); }));
+        combo.SetEditSel(0, -1);
+        typeText(wideText(text));
+        ASSERT_TRUE(waitUntil([&] { return textOf(combo) == text; })) << textOf(combo);
+    }
+    // A key as the program's own message loop has it, until the condition holds.
+    void pressInLoop(WORD key, const std::function<bool()>& condition) {
+        dialog.settle();
+        pressKey(key);
+        EXPECT_TRUE(waitInLoop(condition));
+    }
+    bool waitInLoop(const std::function<bool()>& condition) {
+        MSG message;
+        return waitUntil([&] {
+            while (!condition() && ::PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
+                if (!dialog.WalkPreTranslateTree(dialog.m_hWnd, &message)) {
+                    ::TranslateMessage(&message);
+                    ::DispatchMessage(&message);
+                }
+            return condition();
+        });
+    }
+    void leave() {
+        CWnd* other = dialog.GetDlgItem(IDC_OTHER);
+        other->SetFocus();
+        ASSERT_TRUE(waitUntil([&] { return ::GetFocus() == other->m_hWnd; }));
+    }
+    CFontDlg dialog;
+};
+
+} // namespace orv::test
