@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
 #include <string>
 
 #if defined(_WIN32)
@@ -23,26 +24,22 @@ inline std::string bytesOf(const CString& str) {
 }
 
 // "01 FF 41" as bytes.
-inline std::string fromHex(const std::string& hex) {
-    std::string bytes;
-    for (size_t i = 0; i + 1 < hex.size();) {
-        if (hex[i] == ' ') {
-            i++;
-            continue;
-        }
-        bytes += (char)std::stoi(hex.substr(i, 2), nullptr, 16);
-        i += 2;
-    }
+template <class BYTES = std::string>
+BYTES fromHex(const std::string& hex) {
+    BYTES bytes;
+    std::istringstream stream(hex);
+    for (unsigned n; stream >> std::hex >> n;)
+        bytes.push_back(static_cast<typename BYTES::value_type>(n));
     return bytes;
 }
 
-inline std::string toHex(const std::string& bytes) {
+template <class BYTES>
+std::string toHex(const BYTES& bytes) {
     std::string hex;
-    for (unsigned char b : bytes) {
-        const char* digits = "0123456789ABCDEF";
-        hex += hex.empty() ? "" : " ";
-        hex += digits[b >> 4];
-        hex += digits[b & 15];
+    for (const auto b : bytes) {
+        char digits[4];
+        snprintf(digits, sizeof(digits), hex.empty() ? "%02X" : " %02X", static_cast<BYTE>(b));
+        hex += digits;
     }
     return hex;
 }
@@ -88,6 +85,19 @@ bool throws(const std::function<void()>& f) {
     return false;
 }
 
+// The cause of the EXCEPTION that f throws, which is deleted, or none.
+template <class EXCEPTION>
+int causeOf(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (EXCEPTION* e) {
+        const int nCause = e->m_cause;
+        e->Delete();
+        return nCause;
+    }
+    return EXCEPTION::none;
+}
+
 // A memory file that hands out no direct buffer: archives over it copy, as they do over files on disk.
 class CopiedMemFile : public CMemFile {
 public:
@@ -103,6 +113,16 @@ std::string contentsOf(FILE& file) {
     file.SeekToBegin();
     file.Read(bytes.data(), (UINT)bytes.size());
     return bytes;
+}
+
+// What the object tells about itself.
+template <class OBJECT>
+std::string dumped(const OBJECT& object) {
+    CMemFile file;
+    CDumpContext dc(&file);
+    object.Dump(dc);
+    dc.Flush();
+    return contentsOf(file);
 }
 
 // What store writes into an archive.
@@ -122,14 +142,7 @@ int loaded(const std::string& bytes, const std::function<void(CArchive&)>& load,
     file.Write(bytes.data(), (UINT)bytes.size());
     file.SeekToBegin();
     CArchive ar(&file, CArchive::load, nBufSize);
-    try {
-        load(ar);
-    } catch (CArchiveException* e) {
-        const int nCause = e->m_cause;
-        e->Delete();
-        return nCause;
-    }
-    return CArchiveException::none;
+    return causeOf<CArchiveException>([&] { load(ar); });
 }
 
 } // namespace orv::test

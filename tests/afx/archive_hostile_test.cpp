@@ -11,6 +11,7 @@ using orv::test::CopiedMemFile;
 using orv::test::fromHex;
 using orv::test::loaded;
 using orv::test::stored;
+using orv::test::throws;
 
 namespace {
 
@@ -78,37 +79,35 @@ std::string goodStream() {
 } // namespace
 
 TEST(HostileArchive, BrokenObjects) {
+    using Cause = CArchiveException;
     const struct {
-        const char* what;
-        const char* hex;
-        const CRuntimeClass* pClass;
+        const char *what, *hex;
         int nCause;
+        const CRuntimeClass* pClass = NULL;
     } rows[] = {
-        {"object past the last", DOT "05 00", NULL, CArchiveException::badIndex},
-        {"object number of the next", DOT "03 00", NULL, CArchiveException::badIndex},
-        {"object number names a class", DOT "01 00", NULL, CArchiveException::badIndex},
-        {"class number names an object", DOT "02 80", NULL, CArchiveException::badIndex},
-        {"class number names an object, a class is asked for", DOT "02 80", RUNTIME_CLASS(Dot),
-         CArchiveException::badIndex},
-        {"class number 0", "00 80", NULL, CArchiveException::badIndex},
-        {"class past the last", "07 80", NULL, CArchiveException::badIndex},
-        {"large class number 0", "FF 7F 00 00 00 80", NULL, CArchiveException::badIndex},
-        {"largest class number", "FF 7F FF FF FF FF", NULL, CArchiveException::badIndex},
-        {"largest object number", "FF 7F FF FF FF 7F", NULL, CArchiveException::badIndex},
-        {"unknown class", "FF FF 01 00 03 00 58 59 5A", NULL, CArchiveException::badClass},
-        {"class without a name", "FF FF 01 00 00 00", NULL, CArchiveException::badClass},
-        {"name of 64 KiB", "FF FF 01 00 FF FF 41 41", NULL, CArchiveException::badClass},
-        {"name with a zero byte", "FF FF 01 00 04 00 44 6F 74 00", NULL, CArchiveException::badClass},
-        {"class that makes no objects", "FF FF 01 00 08 00 41 62 73 74 72 61 63 74", NULL,
-         CArchiveException::badClass},
-        {"another class than asked for", DOT, RUNTIME_CLASS(Branch), CArchiveException::badClass},
+        {"object past the last", DOT "05 00", Cause::badIndex},
+        {"object number of the next", DOT "03 00", Cause::badIndex},
+        {"object number names a class", DOT "01 00", Cause::badIndex},
+        {"class number names an object", DOT "02 80", Cause::badIndex},
+        {"class number names an object, a class is asked for", DOT "02 80", Cause::badIndex,
+         RUNTIME_CLASS(Dot)},
+        {"class number 0", "00 80", Cause::badIndex},
+        {"class past the last", "07 80", Cause::badIndex},
+        {"large class number 0", "FF 7F 00 00 00 80", Cause::badIndex},
+        {"largest class number", "FF 7F FF FF FF FF", Cause::badIndex},
+        {"largest object number", "FF 7F FF FF FF 7F", Cause::badIndex},
+        {"unknown class", "FF FF 01 00 03 00 58 59 5A", Cause::badClass},
+        {"class without a name", "FF FF 01 00 00 00", Cause::badClass},
+        {"name of 64 KiB", "FF FF 01 00 FF FF 41 41", Cause::badClass},
+        {"name with a zero byte", "FF FF 01 00 04 00 44 6F 74 00", Cause::badClass},
+        {"class that makes no objects", "FF FF 01 00 08 00 41 62 73 74 72 61 63 74", Cause::badClass},
+        {"another class than asked for", DOT, Cause::badClass, RUNTIME_CLASS(Branch)},
         {"known object of another class", DOT "FF FF 00 00 0A 00 43 42 79 74 65 41 72 72 61 79 00 00 04 00",
-         RUNTIME_CLASS(Dot), CArchiveException::badClass},
-        {"wrong schema", "FF FF 02 00 03 00 44 6F 74 05 00 00 00 00 00", NULL, CArchiveException::badSchema},
+         Cause::badClass, RUNTIME_CLASS(Dot)},
+        {"wrong schema", "FF FF 02 00 03 00 44 6F 74 05 00 00 00 00 00", Cause::badSchema},
         {"half-read object of another class",
-         "FF FF 01 00 04 00 4E 65 73 74 FF FF 01 00 03 00 44 6F 74 00 00 00 00 02 00", NULL,
-         CArchiveException::badClass},
-        {"end behind good objects", DOT "02 00 00 00", RUNTIME_CLASS(Dot), CArchiveException::endOfFile},
+         "FF FF 01 00 04 00 4E 65 73 74 FF FF 01 00 03 00 44 6F 74 00 00 00 00 02 00", Cause::badClass},
+        {"end behind good objects", DOT "02 00 00 00", Cause::endOfFile, RUNTIME_CLASS(Dot)},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
@@ -119,18 +118,15 @@ TEST(HostileArchive, BrokenObjects) {
     }
 }
 
+// The caller goes on after the failure; the stream then names the object that is gone, or one that it had
+// read and owned.
 TEST(HostileArchive, ReferencesToAnObjectWhoseLoadingFailed) {
-    // The caller goes on after the failure; the stream then names the object that is gone.
-    loaded(fromHex("FF FF 01 00 03 00 44 6F 74 05 00 00 00 77 00 02 00"), [](CArchive& ar) {
-        EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
-        EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
-    });
-    // The same of an object that it had read and owned.
-    loaded(fromHex(BRANCH "02 00 FF FF 01 00 03 00 44 6F 74 09 00 00 00 00 00 99 00 04 00"),
-           [](CArchive& ar) {
-               EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
-               EXPECT_TRUE(orv::test::throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
-           });
+    for (const char* hex : {"FF FF 01 00 03 00 44 6F 74 05 00 00 00 77 00 02 00",
+                            BRANCH "02 00 FF FF 01 00 03 00 44 6F 74 09 00 00 00 00 00 99 00 04 00"})
+        loaded(fromHex(hex), [](CArchive& ar) {
+            EXPECT_TRUE(throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
+            EXPECT_TRUE(throws<CArchiveException>([&] { ar.ReadObject(NULL); }));
+        });
     EXPECT_EQ(0, Dot::s_nLive);
 }
 
@@ -201,10 +197,10 @@ TEST(HostileArchive, LengthsAndCountsThatLie) {
 
 TEST(HostileArchive, NestingIsBounded) {
     auto nested = [](int nDepth) {
-        std::string stream = fromHex("FF FF 01 00 04 00 4E 65 73 74");
+        std::string stream = "FF FF 01 00 04 00 4E 65 73 74";
         for (int i = 1; i < nDepth; i++)
-            stream += fromHex("01 80");
-        return stream + fromHex("00 00");
+            stream += " 01 80";
+        return fromHex(stream + " 00 00");
     };
     Nest* nest = NULL;
     auto read = [&](CArchive& ar) { ar >> nest; };
@@ -241,15 +237,8 @@ TEST(HostileArchive, AReadThatFailsAnyTime) {
         file.SeekToBegin();
         file.m_nLeft = nFailures;
         CArchive ar(&file, CArchive::load, 128);
-        bFailed = false;
         Branch* trunk = NULL;
-        try {
-            ar >> trunk;
-        } catch (CFileException* e) {
-            bFailed = true;
-            EXPECT_EQ(CFileException::hardIO, e->m_cause);
-            e->Delete();
-        }
+        bFailed = orv::test::causeOf<CFileException>([&] { ar >> trunk; }) == CFileException::hardIO;
         EXPECT_EQ(bFailed ? 0 : 7, Dot::s_nLive);
         delete trunk;
     }
@@ -260,16 +249,7 @@ TEST(HostileArchive, TheWrongDirection) {
     CMemFile file;
     file.Write("abcd", 4);
     file.SeekToBegin();
-    auto causeOf = [](std::function<void()> use) {
-        try {
-            use();
-        } catch (CArchiveException* e) {
-            const int nCause = e->m_cause;
-            e->Delete();
-            return nCause;
-        }
-        return (int)CArchiveException::none;
-    };
+    const auto causeOf = orv::test::causeOf<CArchiveException>;
     CArchive loading(&file, CArchive::load);
     EXPECT_EQ(CArchiveException::readOnly, causeOf([&] { loading << (LONG)1; }));
     EXPECT_EQ(CArchiveException::readOnly, causeOf([&] { loading << CString("x"); }));

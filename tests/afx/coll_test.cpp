@@ -69,9 +69,8 @@ TEST(Arrays, Edits) {
     };
     for (const Row& row : rows) {
         CStringArray texts;
-        texts.Add("a");
-        texts.Add("b");
-        texts.Add("c");
+        for (const char* text : {"a", "b", "c"})
+            texts.Add(text);
         row.edit(texts);
         EXPECT_EQ(row.expected, shown(texts)) << row.what;
     }
@@ -115,13 +114,9 @@ TEST(Lists, Edits) {
     };
     const Row rows[] = {
         {"add head", [](CStringList& l) { l.AddHead("x"); }, "x.a.b.c."},
-        {"insert before", [](CStringList& l) { l.InsertBefore(l.Find("b"), "x"); }, "a.x.b.c."},
-        {"insert before the head", [](CStringList& l) { l.InsertBefore(l.GetHeadPosition(), "x"); },
-         "x.a.b.c."},
         {"insert after the tail", [](CStringList& l) { l.InsertAfter(l.GetTailPosition(), "x"); },
          "a.b.c.x."},
         {"insert before nothing", [](CStringList& l) { l.InsertBefore(NULL, "x"); }, "x.a.b.c."},
-        {"remove the middle", [](CStringList& l) { l.RemoveAt(l.FindIndex(1)); }, "a.c."},
         {"remove both ends",
          [](CStringList& l) {
              l.RemoveHead();
@@ -134,32 +129,16 @@ TEST(Lists, Edits) {
                  l.RemoveTail();
          },
          ""},
-        {"add a list",
+        {"add lists at both ends",
          [](CStringList& l) {
              CStringList m;
              m.AddTail("x");
              m.AddTail("y");
              l.AddTail(&m);
-         },
-         "a.b.c.x.y."},
-        {"add a list at the head",
-         [](CStringList& l) {
-             CStringList m;
-             m.AddTail("x");
-             m.AddTail("y");
              l.AddHead(&m);
          },
-         "x.y.a.b.c."},
+         "x.y.a.b.c.x.y."},
         {"set", [](CStringList& l) { l.SetAt(l.GetTailPosition(), "x"); }, "a.b.x."},
-        {"backwards",
-         [](CStringList& l) {
-             CString all;
-             for (POSITION pos = l.GetTailPosition(); pos != NULL;)
-                 all += l.GetPrev(pos);
-             l.RemoveAll();
-             l.AddTail(all);
-         },
-         "cba."},
         {"find from behind the first",
          [](CStringList& l) {
              l.AddTail("a");
@@ -175,9 +154,8 @@ TEST(Lists, Edits) {
     };
     for (const Row& row : rows) {
         CStringList texts;
-        texts.AddTail("a");
-        texts.AddTail("b");
-        texts.AddTail("c");
+        for (const char* text : {"a", "b", "c"})
+            texts.AddTail(text);
         row.edit(texts);
         EXPECT_EQ(row.expected, shown(texts)) << row.what;
     }
@@ -211,6 +189,10 @@ TEST(Lists, MemoryInBlocks) {
             ASSERT_EQ(position, pos);
             ASSERT_EQ(element.lock(), list.GetNext(pos));
         }
+        EXPECT_EQ(nullptr, pos);
+        pos = list.GetTailPosition();
+        for (auto it = expected.rbegin(); it != expected.rend(); ++it)
+            ASSERT_EQ(it->first.lock(), list.GetPrev(pos));
         EXPECT_EQ(nullptr, pos);
         list.RemoveAll();
         for (const auto& [element, position] : expected)
@@ -257,18 +239,16 @@ TEST(Lists, MistakesAreHarmless) {
 
 TEST(Collections, StoredForms) {
     CByteArray bytes;
-    bytes.Add(0x41);
-    bytes.Add(0xFF);
+    bytes.SetAtGrow(1, 0xFF);
     CWordArray words;
     words.Add(0x1234);
     CDWordArray numbers;
     numbers.Add(0x12345678);
     CStringArray texts;
-    texts.Add("ab");
-    texts.Add("");
+    texts.SetAtGrow(1, "ab");
     CStringList list;
-    list.AddTail("ab");
-    list.AddTail("");
+    list.AddHead("");
+    list.AddHead("ab");
     CObArray objects;
     objects.Add(NULL);
     CObList objectList;
@@ -280,10 +260,10 @@ TEST(Collections, StoredForms) {
         CObject* object;
         const char* hex;
     } rows[] = {
-        {&bytes, "02 00 41 FF"},
+        {&bytes, "02 00 00 FF"},
         {&words, "01 00 34 12"},
         {&numbers, "01 00 78 56 34 12"},
-        {&texts, "02 00 02 61 62 00"},
+        {&texts, "02 00 00 02 61 62"},
         {&list, "02 00 02 61 62 00"},
         {&objects, "01 00 00 00"},
         {&objectList, "02 00 FF FF 00 00 0A 00 43 57 6F 72 64 41 72 72 61 79 01 00 34 12 02 00"},
@@ -298,30 +278,24 @@ TEST(Collections, LoadingReplacesArraysAndAppendsToLists) {
     texts.Add("old");
     CStringList list;
     list.AddTail("old");
+    CDWordArray numbers;
+    numbers.Add(5);
+    CArray<CPoint> points;
+    points.Add(CPoint(1, 2));
+    // They are as before when loading fails.
+    for (CObject* object : {(CObject*)&texts, (CObject*)&list, (CObject*)&numbers, (CObject*)&points})
+        EXPECT_EQ(CArchiveException::endOfFile,
+                  loaded(fromHex("03 00 02 61 62"), [&](CArchive& ar) { object->Serialize(ar); }));
+    EXPECT_EQ("old.", shown(texts));
+    EXPECT_EQ("old.", shown(list));
+    EXPECT_TRUE(numbers.GetSize() == 1 && numbers[0] == 5);
+    EXPECT_TRUE(points.GetSize() == 1 && points[0] == CPoint(1, 2));
     loaded(fromHex("02 00 02 61 62 00 01 00 01 78"), [&](CArchive& ar) {
         texts.Serialize(ar);
         list.Serialize(ar);
     });
     EXPECT_EQ("ab..", shown(texts));
     EXPECT_EQ("old.x.", shown(list));
-}
-
-TEST(Collections, AreAsBeforeWhenLoadingFails) {
-    CStringArray texts;
-    texts.Add("old");
-    CStringList list;
-    list.AddTail("old");
-    CDWordArray numbers;
-    numbers.Add(5);
-    CArray<CPoint> points;
-    points.Add(CPoint(1, 2));
-    const std::string cut = fromHex("03 00 02 61 62");
-    for (CObject* object : {(CObject*)&texts, (CObject*)&list, (CObject*)&numbers, (CObject*)&points})
-        EXPECT_EQ(CArchiveException::endOfFile, loaded(cut, [&](CArchive& ar) { object->Serialize(ar); }));
-    EXPECT_EQ("old.", shown(texts));
-    EXPECT_EQ("old.", shown(list));
-    EXPECT_TRUE(numbers.GetSize() == 1 && numbers[0] == 5);
-    EXPECT_TRUE(points.GetSize() == 1 && points[0] == CPoint(1, 2));
 }
 
 TEST(Collections, ObjectsReadBeforeAFailureAreTheirOwnersToFree) {

@@ -4,6 +4,8 @@
 
 using orv::test::contentsOf;
 
+const auto causeOf = orv::test::causeOf<CFileException>;
+
 namespace {
 
 // A folder of its own, gone with the test.
@@ -30,18 +32,6 @@ protected:
 
     std::filesystem::path m_folder;
 };
-
-template <class F>
-int causeOf(F f) {
-    try {
-        f();
-    } catch (CFileException* e) {
-        const int nCause = e->m_cause;
-        e->Delete();
-        return nCause;
-    }
-    return CFileException::none;
-}
 
 } // namespace
 
@@ -74,8 +64,7 @@ TEST_F(FileTest, Modes) {
 
 TEST_F(FileTest, FailuresSayWhy) {
     CFileException failure;
-    CFile file;
-    EXPECT_FALSE(file.Open(path("missing.txt"), CFile::modeRead, &failure));
+    EXPECT_FALSE(CFile().Open(path("missing.txt"), CFile::modeRead, &failure));
     EXPECT_EQ(CFileException::fileNotFound, failure.m_cause);
     EXPECT_GT(failure.m_lOsError, 0);
     EXPECT_EQ(orv::test::bytesOf(path("missing.txt")), orv::test::bytesOf(failure.m_strFileName));
@@ -94,8 +83,8 @@ TEST_F(FileTest, FailuresSayWhy) {
 TEST_F(FileTest, NamesAndStatus) {
     const CString name = written("亅誠.tar.gz", "123");
     CFile file(name, CFile::modeRead);
-    EXPECT_EQ("亅誠.tar.gz",
-              orv::test::bytesOf(file.GetFileName())); // the trail bytes are a bar and a backslash
+    // The trail bytes are a bar and a backslash.
+    EXPECT_EQ("亅誠.tar.gz", orv::test::bytesOf(file.GetFileName()));
     EXPECT_EQ("亅誠.tar", orv::test::bytesOf(file.GetFileTitle()));
     EXPECT_GT(file.GetFilePath().GetLength(), file.GetFileName().GetLength());
     CFileStatus status;
@@ -188,23 +177,6 @@ TEST(MemFile, AttachedBuffers) {
     BYTE* block = growing.Detach();
     EXPECT_EQ(0, memcmp(block, "0123456789", 10));
     free(block);
-}
-
-TEST(MemFile, DirectBuffers) {
-    CMemFile file;
-    void *start, *max;
-    EXPECT_EQ((UINT)CFile::bufferDirect, file.GetBufferPtr(CFile::bufferCheck));
-    EXPECT_EQ(10u, file.GetBufferPtr(CFile::bufferWrite, 10, &start, &max));
-    EXPECT_EQ(10, (BYTE*)max - (BYTE*)start);
-    memcpy(start, "abc", 3);
-    EXPECT_EQ(0u, file.GetLength());
-    file.GetBufferPtr(CFile::bufferCommit, 3);
-    EXPECT_EQ(3u, file.GetPosition());
-    file.SeekToBegin();
-    EXPECT_EQ(3u, file.GetBufferPtr(CFile::bufferRead, 10, &start, &max));
-    EXPECT_EQ("abc", std::string((char*)start, (char*)max));
-    EXPECT_EQ(3u, file.GetPosition());
-    EXPECT_EQ(0u, file.GetBufferPtr(CFile::bufferRead, 10, &start, &max));
 }
 
 TEST(MemFile, WritingPieceByPieceIsLinear) {

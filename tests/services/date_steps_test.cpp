@@ -5,21 +5,16 @@
 
 #include <gtest/gtest.h>
 
-#include <afxdisp.h>
-#include <math.h>
 #include <random>
 
 #include "afx/afx_test.h"
+#include "dates.h"
 
 namespace {
 
+using orv::test::day;
+using orv::test::kNoDates;
 using Format = CORVDateFormat;
-
-constexpr double kNoDates[] = {DBL_MAX, -DBL_MAX, HUGE_VAL, -HUGE_VAL, NAN, 2958466, -657435, 1e10};
-
-double day(int year, int month, int dayOfMonth) {
-    return COleDateTime(year, month, dayOfMonth, 0, 0, 0);
-}
 
 // A random date; half of them have a time of day.
 double randomDate(std::mt19937& engine, int first, int last) {
@@ -45,7 +40,7 @@ TEST(DateSteps, CalendarAgreesWithTheFoundation) {
         expectSame(number);
     for (int year : {100, 400, 1900, 2000, 2004, 2100, 9999}) {
         for (int number = 0; number < 365; ++number)
-            expectSame(day(year, 1, 1) + number);
+            expectSame(day(10000 * year + 101) + number);
     }
     const unsigned seed = std::random_device()();
     SCOPED_TRACE(seed);
@@ -59,66 +54,60 @@ TEST(DateSteps, CalendarAgreesWithTheFoundation) {
         EXPECT_FALSE(orv::isDate(date)) << date;
 }
 
+constexpr int kAfter = 99999999; // all dates
+constexpr int kBefore = 0;
+
+// As GetNextScale and GetPrevScale say it.
+double answer(int digits) {
+    return digits == kAfter ? DBL_MAX : digits == kBefore ? -DBL_MAX : day(digits);
+}
+
 struct StepRow {
     int unit;
     double from;
-    double begin, next, next3, prev, prev3;
+    int begin, next, next3, prev, prev3;
 };
 
 const StepRow stepRows[] = {
     // A date that begins its unit, and dates inside one.
-    {0, day(2000, 1, 1), day(2000, 1, 1), day(2001, 1, 1), day(2003, 1, 1), day(1999, 1, 1), day(1997, 1, 1)},
-    {0, day(2000, 12, 31), day(2000, 1, 1), day(2001, 1, 1), day(2003, 1, 1), day(2000, 1, 1),
-     day(1998, 1, 1)},
-    {1, day(2000, 4, 1), day(2000, 4, 1), day(2000, 7, 1), day(2001, 1, 1), day(2000, 1, 1), day(1999, 7, 1)},
-    {1, day(2000, 3, 31), day(2000, 1, 1), day(2000, 4, 1), day(2000, 10, 1), day(2000, 1, 1),
-     day(1999, 7, 1)},
-    {2, day(2000, 1, 1), day(2000, 1, 1), day(2000, 2, 1), day(2000, 4, 1), day(1999, 12, 1),
-     day(1999, 10, 1)},
-    {2, day(2000, 1, 31), day(2000, 1, 1), day(2000, 2, 1), day(2000, 4, 1), day(2000, 1, 1),
-     day(1999, 11, 1)},
-    {3, day(2000, 2, 21), day(2000, 2, 21), day(2000, 3, 1), day(2000, 3, 21), day(2000, 2, 11),
-     day(2000, 1, 21)},
-    {3, day(2000, 1, 31), day(2000, 1, 21), day(2000, 2, 1), day(2000, 2, 21), day(2000, 1, 21),
-     day(2000, 1, 1)},
-    {3, day(2000, 1, 10), day(2000, 1, 1), day(2000, 1, 11), day(2000, 2, 1), day(2000, 1, 1),
-     day(1999, 12, 11)},
-    {3, day(2000, 1, 20), day(2000, 1, 11), day(2000, 1, 21), day(2000, 2, 11), day(2000, 1, 11),
-     day(1999, 12, 21)},
-    {4, day(2000, 12, 31), day(2000, 12, 31), day(2001, 1, 7), day(2001, 1, 21), day(2000, 12, 24),
-     day(2000, 12, 10)},
-    {4, day(2000, 2, 29), day(2000, 2, 27), day(2000, 3, 5), day(2000, 3, 19), day(2000, 2, 27),
-     day(2000, 2, 13)},
-    {4, day(1899, 12, 30), day(1899, 12, 24), day(1899, 12, 31), day(1900, 1, 14), day(1899, 12, 24),
-     day(1899, 12, 10)},
-    {5, day(2000, 2, 28), day(2000, 2, 28), day(2000, 2, 29), day(2000, 3, 2), day(2000, 2, 27),
-     day(2000, 2, 25)},
-    {5, day(1900, 2, 28) + 0.5, day(1900, 2, 28), day(1900, 3, 1), day(1900, 3, 3), day(1900, 2, 28),
-     day(1900, 2, 26)},
+    {0, day(20000101), 20000101, 20010101, 20030101, 19990101, 19970101},
+    {0, day(20001231), 20000101, 20010101, 20030101, 20000101, 19980101},
+    {1, day(20000401), 20000401, 20000701, 20010101, 20000101, 19990701},
+    {1, day(20000331), 20000101, 20000401, 20001001, 20000101, 19990701},
+    {2, day(20000101), 20000101, 20000201, 20000401, 19991201, 19991001},
+    {2, day(20000131), 20000101, 20000201, 20000401, 20000101, 19991101},
+    {3, day(20000221), 20000221, 20000301, 20000321, 20000211, 20000121},
+    {3, day(20000131), 20000121, 20000201, 20000221, 20000121, 20000101},
+    {3, day(20000110), 20000101, 20000111, 20000201, 20000101, 19991211},
+    {3, day(20000120), 20000111, 20000121, 20000211, 20000111, 19991221},
+    {4, day(20001231), 20001231, 20010107, 20010121, 20001224, 20001210},
+    {4, day(20000229), 20000227, 20000305, 20000319, 20000227, 20000213},
+    {4, day(18991230), 18991224, 18991231, 19000114, 18991224, 18991210},
+    {5, day(20000228), 20000228, 20000229, 20000302, 20000227, 20000225},
+    {5, day(19000228) + 0.5, 19000228, 19000301, 19000303, 19000228, 19000226},
     // 29 December 1899, 6:00; and a quarter of a second before 1 January 2001.
-    {5, -1.25, -1, 0, 2, -1, -3},
-    {0, day(2001, 1, 1) - 0.25 / 86400, day(2001, 1, 1), day(2002, 1, 1), day(2004, 1, 1), day(2000, 1, 1),
-     day(1998, 1, 1)},
+    {5, -1.25, 18991229, 18991230, 19000101, 18991229, 18991227},
+    {0, day(20010101) - 0.25 / 86400, 20010101, 20020101, 20040101, 20000101, 19980101},
     // The ends of the calendar. 1 January 100 was a Friday.
-    {0, day(9997, 5, 5), day(9997, 1, 1), day(9998, 1, 1), DBL_MAX, day(9997, 1, 1), day(9995, 1, 1)},
-    {1, day(9999, 12, 31), day(9999, 10, 1), DBL_MAX, DBL_MAX, day(9999, 10, 1), day(9999, 4, 1)},
-    {2, day(100, 2, 1), day(100, 2, 1), day(100, 3, 1), day(100, 5, 1), day(100, 1, 1), -DBL_MAX},
-    {3, day(100, 1, 1), day(100, 1, 1), day(100, 1, 11), day(100, 2, 1), -DBL_MAX, -DBL_MAX},
-    {4, day(100, 1, 2), -DBL_MAX, day(100, 1, 3), day(100, 1, 17), -DBL_MAX, -DBL_MAX},
-    {5, day(9999, 12, 31), day(9999, 12, 31), DBL_MAX, DBL_MAX, day(9999, 12, 30), day(9999, 12, 28)},
+    {0, day(99970505), 99970101, 99980101, kAfter, 99970101, 99950101},
+    {1, day(99991231), 99991001, kAfter, kAfter, 99991001, 99990401},
+    {2, day(1000201), 1000201, 1000301, 1000501, 1000101, kBefore},
+    {3, day(1000101), 1000101, 1000111, 1000201, kBefore, kBefore},
+    {4, day(1000102), kBefore, 1000103, 1000117, kBefore, kBefore},
+    {5, day(99991231), 99991231, kAfter, kAfter, 99991230, 99991228},
 };
 
 TEST(DateSteps, Table) {
     for (const StepRow& row : stepRows) {
         SCOPED_TRACE(testing::Message() << "unit " << row.unit << ", from " << row.from);
-        EXPECT_EQ(row.begin, Format::GetNextScale(row.unit, 0, row.from));
-        EXPECT_EQ(row.begin, Format::GetPrevScale(row.unit, 0, row.from));
-        EXPECT_EQ(row.next, Format::GetNextScale(row.unit, 1, row.from));
-        EXPECT_EQ(row.next3, Format::GetNextScale(row.unit, 3, row.from));
-        EXPECT_EQ(row.next3, Format::GetPrevScale(row.unit, -3, row.from));
-        EXPECT_EQ(row.prev, Format::GetPrevScale(row.unit, 1, row.from));
-        EXPECT_EQ(row.prev3, Format::GetPrevScale(row.unit, 3, row.from));
-        EXPECT_EQ(row.prev3, Format::GetNextScale(row.unit, -3, row.from));
+        EXPECT_EQ(answer(row.begin), Format::GetNextScale(row.unit, 0, row.from));
+        EXPECT_EQ(answer(row.begin), Format::GetPrevScale(row.unit, 0, row.from));
+        EXPECT_EQ(answer(row.next), Format::GetNextScale(row.unit, 1, row.from));
+        EXPECT_EQ(answer(row.next3), Format::GetNextScale(row.unit, 3, row.from));
+        EXPECT_EQ(answer(row.next3), Format::GetPrevScale(row.unit, -3, row.from));
+        EXPECT_EQ(answer(row.prev), Format::GetPrevScale(row.unit, 1, row.from));
+        EXPECT_EQ(answer(row.prev3), Format::GetPrevScale(row.unit, 3, row.from));
+        EXPECT_EQ(answer(row.prev3), Format::GetNextScale(row.unit, -3, row.from));
         EXPECT_EQ(DBL_MAX, Format::GetNextScale(row.unit, INT_MAX, row.from));
         EXPECT_EQ(DBL_MAX, Format::GetPrevScale(row.unit, INT_MIN, row.from));
         EXPECT_EQ(-DBL_MAX, Format::GetPrevScale(row.unit, INT_MAX, row.from));
@@ -128,15 +117,15 @@ TEST(DateSteps, Table) {
 
 TEST(DateSteps, BeginOfUnit) {
     const Format format;
-    const double evening = day(2000, 12, 29) + 0.75; // a Friday
-    const double expected[] = {day(2000, 1, 1),   day(2000, 10, 1),         day(2000, 12, 1),
-                               day(2000, 12, 21), day(2000, 12, 24) + 0.75, evening};
+    const double evening = day(20001229) + 0.75; // a Friday
+    const double expected[] = {day(20000101), day(20001001),        day(20001201),
+                               day(20001221), day(20001224) + 0.75, evening};
     for (int unit = 0; unit < 6; ++unit)
         EXPECT_EQ(expected[unit], format.GetBeginDate(unit, 7, evening)) << unit;
-    EXPECT_EQ(day(2000, 12, 24), format.GetBeginDate(4, 1, day(2000, 12, 24)));
+    EXPECT_EQ(day(20001224), format.GetBeginDate(4, 1, day(20001224)));
     // The evenings of Saturday, 30, and of Sunday, 24 December 1899.
     EXPECT_EQ(-6.75, format.GetBeginDate(4, 1, 0.75));
-    EXPECT_EQ(DBL_MAX, format.GetBeginDate(4, 1, day(100, 1, 2)));
+    EXPECT_EQ(DBL_MAX, format.GetBeginDate(4, 1, day(1000102)));
     for (int unit : {-1, 6, INT_MIN, INT_MAX})
         EXPECT_EQ(DBL_MAX, format.GetBeginDate(unit, 1, evening));
     for (double date : kNoDates)
@@ -184,44 +173,30 @@ TEST(DateSteps, RangesCountWhatSteppingCounts) {
         for (double guess : {nearly, floor(nearly), ceil(nearly), nearly + 1, nearly - 1})
             expectSame(nearly, guess);
     }
-    expectSame(day(100, 1, 1), day(1000, 1, 1));
+    expectSame(day(1000101), day(10000101));
 }
 
 TEST(DateSteps, CountsOverARange) {
-    const double first = day(2000, 1, 31);
+    const double first = day(20000131);
     const struct {
         int unit, n;
         double last;
         int columns;
-    } rows[] = {{5, 1, first, 1},
-                {5, 1, first + 0.9, 1},
-                {5, 1, first + 6, 7},
-                {5, 2, first + 6, 4},
-                {5, 2, first + 7, 4},
-                {2, 1, first + 1, 2},
-                {2, 2, first + 1, 1},
-                {2, 2, first + 30, 2},
-                {3, 1, first + 1, 2},
-                {4, 1, first + 5, 1},
-                {4, 1, first + 6, 2},
-                {1, 1, day(2000, 4, 1), 2},
-                {0, 1, day(2009, 1, 1), 10},
-                {0, 3, day(2009, 1, 1), 4},
-                {0, INT_MAX, day(2009, 1, 1), 1},
-                {5, 1, first - 1, 0},
-                {5, 0, first + 6, 0},
-                {5, -1, first + 6, 0},
-                {5, INT_MIN, first, 0},
-                {6, 1, first, 0},
-                {-1, 1, first, 0}};
+    } rows[] = {{5, 1, first, 1},          {5, 1, first + 0.9, 1},   {5, 1, first + 6, 7},
+                {5, 2, first + 6, 4},      {5, 2, first + 7, 4},     {2, 1, first + 1, 2},
+                {2, 2, first + 1, 1},      {2, 2, first + 30, 2},    {3, 1, first + 1, 2},
+                {4, 1, first + 5, 1},      {4, 1, first + 6, 2},     {1, 1, day(20000401), 2},
+                {0, 1, day(20090101), 10}, {0, 3, day(20090101), 4}, {0, INT_MAX, day(20090101), 1},
+                {5, 1, first - 1, 0},      {5, 0, first + 6, 0},     {5, -1, first + 6, 0},
+                {5, INT_MIN, first, 0},    {6, 1, first, 0},         {-1, 1, first, 0}};
     for (const auto& row : rows)
         EXPECT_EQ(row.columns, Format::GetDateRangleCounts(row.unit, row.n, first, row.last))
             << row.unit << " " << row.n << " " << row.last - first;
     EXPECT_EQ(1, Format::GetDateRangleDays(first + 0.75, first + 0.25));
-    EXPECT_EQ(366, Format::GetDateRangleDays(day(2000, 1, 1), day(2000, 12, 31)));
+    EXPECT_EQ(366, Format::GetDateRangleDays(day(20000101), day(20001231)));
     EXPECT_EQ(3, Format::GetDateRangleDays(-1.75, 1.25));
     EXPECT_EQ(0, Format::GetDateRangleDays(first, first - 1));
-    EXPECT_EQ(3615900, Format::GetDateRangleDays(day(100, 1, 1), day(9999, 12, 31)));
+    EXPECT_EQ(3615900, Format::GetDateRangleDays(day(1000101), day(99991231)));
     for (double date : kNoDates) {
         EXPECT_EQ(0, Format::GetDateRangleDays(first, date) + Format::GetDateRangleDays(date, first));
         EXPECT_EQ(0, Format::GetDateRangleCounts(5, 1, first, date) +

@@ -71,16 +71,14 @@ TEST(FileNames, BackslashesOfTheirOwn) {
         const char* path;
         bool ends;
         size_t last;
-    } const rows[] = {
-        {"a\\", true, 1},
-        {"a\\b", false, 1},
-        {"誠", false, std::string::npos},
-        {"誠\\", true, 2},
-        {"", false, std::string::npos},
-        {"a\\誠", false, 1},
-        {"\\", true, 0},
-        {"/", false, std::string::npos},
-    };
+    } const rows[] = {{"a\\", true, 1},
+                      {"a\\b", false, 1},
+                      {"誠", false, std::string::npos},
+                      {"誠\\", true, 2},
+                      {"", false, std::string::npos},
+                      {"a\\誠", false, 1},
+                      {"\\", true, 0},
+                      {"/", false, std::string::npos}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.path);
         EXPECT_EQ(row.ends, orv::endsInBackslash(row.path));

@@ -1,6 +1,6 @@
 #pragma once
 
-// A host's own serial classes.
+// A host's own serial class.
 
 #include <afx.h>
 
@@ -21,17 +21,6 @@ public:
 
     LONG m_nWeight = 0;
     std::function<void()> m_onSerialize; // called first, when there is one
-};
-
-// Deletes its content.
-class Crate : public Parcel {
-    DECLARE_SERIAL(Crate)
-
-public:
-    ~Crate() override { delete m_pContent; }
-    void Serialize(CArchive& ar) override;
-
-    Parcel* m_pContent = NULL;
 };
 
 } // namespace orv::test

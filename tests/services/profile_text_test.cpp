@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "afx/afx_test.h"
+
 using namespace std::string_view_literals;
 
 TEST(ProfileText, SplitsAtZeros) {
@@ -45,20 +47,7 @@ TEST(ProfileText, ValuesOfFullBuffers) {
         EXPECT_EQ(row.value, orv::profileValue(row.text, row.room)) << row.text << " " << row.room;
 }
 
-namespace {
-
-std::string readBack(std::string_view contents) {
-    CMemFile file;
-    file.Write(contents.data(), static_cast<UINT>(contents.size()));
-    file.SeekToBegin();
-    CString line = "old";
-    EXPECT_TRUE(orv::readLine(&file, line));
-    return std::string(line.GetString(), static_cast<size_t>(line.GetLength()));
-}
-
-} // namespace
-
-// Not a line but the rest of the file, less its first line feed.
+// Not a line but the rest of the file from where it stands, less its first line feed.
 TEST(LineHelpers, ReadTheRestOfTheFile) {
     struct {
         std::string_view contents, line;
@@ -72,19 +61,17 @@ TEST(LineHelpers, ReadTheRestOfTheFile) {
         {"a\0b"sv, "a\0b"sv},
         {"\xEF\xBB\xBFx\n", "\xEF\xBB\xBFx"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.line, readBack(row.contents)) << row.contents;
-}
-
-TEST(LineHelpers, ReadFromWhereTheFileStands) {
-    CMemFile file;
-    file.Write("one\ntwo\n", 8);
-    file.Seek(4, CFile::begin);
-    CString line;
-    EXPECT_TRUE(orv::readLine(&file, line));
-    EXPECT_TRUE(line == "two");
-    EXPECT_TRUE(orv::readLine(&file, line));
-    EXPECT_TRUE(line.IsEmpty());
+    for (const auto& row : rows) {
+        CMemFile file;
+        file.Write("before", 6);
+        file.Write(row.contents.data(), static_cast<UINT>(row.contents.size()));
+        file.Seek(6, CFile::begin);
+        CString line = "old";
+        EXPECT_TRUE(orv::readLine(&file, line)) << row.contents;
+        EXPECT_EQ(row.line, orv::test::bytesOf(line)) << row.contents;
+        EXPECT_TRUE(orv::readLine(&file, line)) << row.contents;
+        EXPECT_TRUE(line.IsEmpty()) << row.contents;
+    }
 }
 
 TEST(LineHelpers, Write) {
@@ -92,8 +79,5 @@ TEST(LineHelpers, Write) {
     orv::writeLine(&file, "one");
     orv::writeLine(&file, "");
     orv::writeLine(&file, CString("a\0b", 3));
-    char written[20] = {};
-    file.SeekToBegin();
-    const UINT length = file.Read(written, sizeof(written));
-    EXPECT_EQ("one\r\n\r\na\0b\r\n"sv, std::string_view(written, length));
+    EXPECT_EQ("one\r\n\r\na\0b\r\n"sv, orv::test::contentsOf(file));
 }

@@ -4,13 +4,13 @@
 #include "registry_test.h"
 
 #include <functional>
+#include <new>
 
-#include "hex.h"
+#include "afx/afx_test.h"
 #include "parcel.h"
 
-using orv::test::bytes;
-using orv::test::hex;
 using orv::test::Parcel;
+using orv::test::toHex;
 
 namespace {
 
@@ -19,10 +19,17 @@ class RegistryValues : public orv::test::RegistryTest {
 protected:
     void expectStored(const COrvRegStore& store, const char* name, DWORD type, const std::string& expected) {
         EXPECT_EQ(type, this->value(name).type) << name;
-        EXPECT_EQ(expected, hex(this->value(name).bytes)) << name;
+        EXPECT_EQ(expected, toHex(this->value(name).bytes)) << name;
         EXPECT_EQ(0, store.m_Info.lResult) << name;
         EXPECT_EQ(type, store.m_Info.dwType) << name;
         EXPECT_EQ(this->value(name).bytes.size(), store.m_Info.dwSize) << name;
+    }
+    template <class Value>
+    void expectComesBack(Store& store, Value& value, Value& back, const std::string& bytes) {
+        ASSERT_TRUE(store.Write("value", value));
+        expectStored(store, "value", REG_BINARY, bytes);
+        ASSERT_TRUE(store.Read("value", back));
+        expectInfo(store, 0, REG_BINARY, static_cast<DWORD>(this->value("value").bytes.size()));
     }
     void expectInfo(const COrvRegStore& store, LONG result, DWORD type, DWORD size) {
         EXPECT_EQ(result, store.m_Info.lResult);
@@ -70,7 +77,7 @@ TYPED_TEST(RegistryValues, Blocks) {
     unsigned char* back = NULL;
     unsigned size = 9;
     ASSERT_TRUE(store.Read("block", &back, &size));
-    EXPECT_EQ("01 00 FF", hex({back, size}));
+    EXPECT_EQ("01 00 FF", toHex(std::string(back, back + size)));
     this->expectInfo(store, 0, REG_BINARY, 3);
     delete[] back;
     ASSERT_TRUE(store.Write("empty", data, 0));
@@ -102,24 +109,16 @@ TYPED_TEST(RegistryValues, Blocks) {
 
 TYPED_TEST(RegistryValues, TextsHaveTwoHundredBytes) {
     TypeParam store = this->template opened<TypeParam>();
-    const auto readText = [&](size_t length, CString& text) {
-        std::vector<BYTE> bytes(length, 'x');
-        bytes.push_back(0);
-        this->setValue("text", REG_SZ, bytes);
-        return store.Read("text", text);
-    };
-    CString text;
-    EXPECT_TRUE(readText(199, text));
-    EXPECT_EQ(199, text.GetLength());
-    this->expectInfo(store, 0, REG_SZ, 200);
-    text = "before";
-    EXPECT_FALSE(readText(200, text));
+    CString text = "before";
+    this->setValue("long", REG_SZ, std::vector<BYTE>(201, 'x'));
+    EXPECT_FALSE(store.Read("long", text));
     EXPECT_EQ(ERROR_MORE_DATA, store.m_Info.lResult);
     EXPECT_TRUE(text == "before");
     // Without a closing zero, and with bytes behind one.
     this->setValue("open", REG_BINARY, std::vector<BYTE>(200, 'y'));
     EXPECT_TRUE(store.Read("open", text));
     EXPECT_EQ(200, text.GetLength());
+    this->expectInfo(store, 0, REG_BINARY, 200);
     this->setValue("more", REG_BINARY, {'a', 0, 'b'});
     EXPECT_TRUE(store.Read("more", text));
     EXPECT_TRUE(text == "a");
@@ -130,53 +129,58 @@ TYPED_TEST(RegistryValues, Collections) {
     CStringList list, listBack;
     list.AddTail("ab");
     list.AddTail("");
-    ASSERT_TRUE(store.Write("list", list));
-    this->expectStored(store, "list", REG_BINARY, "02 00 02 61 62 00");
-    ASSERT_TRUE(store.Read("list", listBack));
+    this->expectComesBack(store, list, listBack, "02 00 02 61 62 00");
     ASSERT_EQ(2, listBack.GetCount());
     EXPECT_TRUE(listBack.GetHead() == "ab");
-    this->expectInfo(store, 0, REG_BINARY, 6);
 
     CStringArray texts, textsBack;
     texts.Add("中文");
-    ASSERT_TRUE(store.Write("texts", texts));
-    this->expectStored(store, "texts", REG_BINARY, "01 00 04 D6 D0 CE C4");
-    ASSERT_TRUE(store.Read("texts", textsBack));
+    this->expectComesBack(store, texts, textsBack, "01 00 04 D6 D0 CE C4");
     EXPECT_TRUE(textsBack[0] == "中文");
 
     CByteArray raw, rawBack;
     raw.Add(9);
-    ASSERT_TRUE(store.Write("bytes", raw));
-    this->expectStored(store, "bytes", REG_BINARY, "01 00 09");
-    ASSERT_TRUE(store.Read("bytes", rawBack));
+    this->expectComesBack(store, raw, rawBack, "01 00 09");
     EXPECT_EQ(9, rawBack[0]);
 
     CDWordArray numbers, numbersBack;
     numbers.Add(0x01020304);
-    ASSERT_TRUE(store.Write("dwords", numbers));
-    this->expectStored(store, "dwords", REG_BINARY, "01 00 04 03 02 01");
-    ASSERT_TRUE(store.Read("dwords", numbersBack));
+    this->expectComesBack(store, numbers, numbersBack, "01 00 04 03 02 01");
     EXPECT_EQ(0x01020304u, numbersBack[0]);
 
+    // The reader takes the upper half of the count for the first element.
     CWordArray words, wordsBack;
     words.Add(7);
-    words.Add(8);
-    ASSERT_TRUE(store.Write("words", words));
-    this->expectStored(store, "words", REG_BINARY, "02 00 00 00 07 00 08 00");
-    ASSERT_TRUE(store.Read("words", wordsBack));
+    words.Add(0x0809);
+    this->expectComesBack(store, words, wordsBack, "02 00 00 00 07 00 09 08");
     ASSERT_EQ(2, wordsBack.GetSize());
     EXPECT_EQ(0, wordsBack[0]);
     EXPECT_EQ(7, wordsBack[1]);
-}
 
-TYPED_TEST(RegistryValues, RectanglesAndPoints) {
-    TypeParam store = this->template opened<TypeParam>();
-    CRect rect(1, -1, 2, 3), rectBack;
-    ASSERT_TRUE(store.Write("rect", rect));
-    this->expectStored(store, "rect", REG_BINARY, "01 00 00 00 FF FF FF FF 02 00 00 00 03 00 00 00");
-    ASSERT_TRUE(store.Read("rect", rectBack));
+    CRect rect(1, -1, 2, INT_MIN), rectBack;
+    this->expectComesBack(store, rect, rectBack, "01 00 00 00 FF FF FF FF 02 00 00 00 00 00 00 80");
     EXPECT_TRUE(rect == rectBack);
 
+    Parcel parcel;
+    parcel.m_nWeight = 0x0A0B;
+    CObList objects, objectsBack;
+    objects.AddTail(&parcel);
+    objects.AddTail(&parcel);
+    this->expectComesBack(store, objects, objectsBack,
+                          "02 00 FF FF 03 00 06 00 50 61 72 63 65 6C 0B 0A 00 00 02 00");
+    ASSERT_EQ(2, objectsBack.GetCount());
+    EXPECT_EQ(objectsBack.GetHead(), objectsBack.GetTail());
+    EXPECT_EQ(0x0A0B, static_cast<Parcel*>(objectsBack.GetHead())->m_nWeight);
+    delete objectsBack.GetHead();
+
+    // An object of its own has no class tag.
+    Parcel other;
+    this->template expectComesBack<CObject>(store, parcel, other, "0B 0A 00 00");
+    EXPECT_EQ(0x0A0B, other.m_nWeight);
+}
+
+TYPED_TEST(RegistryValues, Points) {
+    TypeParam store = this->template opened<TypeParam>();
     // Stored in 22 bytes, with an assertion; read from at most 20.
     POINT point = {-1, 2}, pointBack = {7, 8};
     POINT *pPoint = &point, *pBack = &pointBack;
@@ -185,43 +189,18 @@ TYPED_TEST(RegistryValues, RectanglesAndPoints) {
     EXPECT_EQ(before + 1, this->events_.assertions());
     EXPECT_EQ(REG_BINARY, this->value("point").type);
     EXPECT_EQ("05 00 FF FF FF FF 02 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00",
-              hex(this->value("point").bytes));
+              toHex(this->value("point").bytes));
     this->expectInfo(store, 0, 2, 22);
     EXPECT_FALSE(store.Read("point", pBack));
     this->expectInfo(store, ERROR_MORE_DATA, 2, 8);
     EXPECT_EQ(7, pointBack.x);
     // Two numbers do fit.
-    this->setValue("short", REG_BINARY, bytes("02 00 05 00 00 00 06 00 00 00"));
+    this->setValue("short", REG_BINARY,
+                   orv::test::fromHex<std::vector<BYTE>>("02 00 05 00 00 00 06 00 00 00"));
     EXPECT_TRUE(store.Read("short", pBack));
     this->expectInfo(store, 0, 2, 8);
     EXPECT_EQ(5, pointBack.x);
     EXPECT_EQ(6, pointBack.y);
-}
-
-TYPED_TEST(RegistryValues, Objects) {
-    TypeParam store = this->template opened<TypeParam>();
-    Parcel parcel;
-    parcel.m_nWeight = 0x0A0B;
-    CObList list, back;
-    list.AddTail(&parcel);
-    list.AddTail(&parcel);
-    ASSERT_TRUE(store.Write("objects", list));
-    this->expectStored(store, "objects", REG_BINARY,
-                       "02 00 FF FF 03 00 06 00 50 61 72 63 65 6C 0B 0A 00 00 02 00");
-    ASSERT_TRUE(store.Read("objects", back));
-    ASSERT_EQ(2, back.GetCount());
-    EXPECT_EQ(back.GetHead(), back.GetTail());
-    EXPECT_EQ(0x0A0B, static_cast<Parcel*>(back.GetHead())->m_nWeight);
-    delete back.GetHead();
-
-    // An object of its own has no class tag.
-    CObject& object = parcel;
-    ASSERT_TRUE(store.Write("object", object));
-    this->expectStored(store, "object", REG_BINARY, "0B 0A 00 00");
-    Parcel other;
-    CObject& otherObject = other;
-    ASSERT_TRUE(store.Read("object", otherObject));
-    EXPECT_EQ(0x0A0B, other.m_nWeight);
 }
 
 TYPED_TEST(RegistryValues, ReadOnlyStoresRefuse) {
@@ -339,7 +318,10 @@ TYPED_TEST(RegistryValues, EverythingThrownIsCaught) {
          "CArchiveException exception in CRegistry::Read ()!\n"},
         {[] { AfxThrowMemoryException(); }, "Memory exception in CRegistry::Write ()!\n",
          "Memory exception in CRegistry::Read ()!\n"},
+        {[] { throw std::bad_alloc(); }, "Memory exception in CRegistry::Write ()!\n",
+         "Memory exception in CRegistry::Read ()!\n"},
         {[] { AfxThrowUserException(); }, "", ""},
+        {[] { AfxThrowFileException(CFileException::diskFull); }, "", ""},
         {[] { throw 5; }, "", ""},
     };
     for (const auto& row : rows) {
@@ -363,7 +345,7 @@ class RegistryTexts : public orv::test::RegistryTest {};
 TEST_F(RegistryTexts, RegisterStoresTheText) {
     COrvRegister store = opened<COrvRegister>();
     ASSERT_TRUE(store.Write("text", "誠 a"));
-    EXPECT_EQ("D5 5C 20 61 00", hex(value("text").bytes));
+    EXPECT_EQ("D5 5C 20 61 00", toHex(value("text").bytes));
     EXPECT_EQ(REG_SZ, value("text").type);
     EXPECT_EQ(1u, store.m_Info.dwType);
     EXPECT_EQ(5u, store.m_Info.dwSize);
@@ -388,11 +370,11 @@ TEST_F(RegistryTexts, RegistryStoresThePointer) {
     EXPECT_EQ(1u, store.m_Info.dwType);
     EXPECT_EQ(13u, store.m_Info.dwSize);
     EXPECT_EQ(REG_SZ, value("text").type);
-    EXPECT_EQ("42 43 41 21 00 00 00 00 00 00 00 00 00", hex(value("text").bytes));
+    EXPECT_EQ("42 43 41 21 00 00 00 00 00 00 00 00 00", toHex(value("text").bytes));
     // Shorter than the pointer: not closed by the system either.
     strcpy(text, "ab");
     ASSERT_TRUE(store.Write("short", text));
     EXPECT_EQ(3u, store.m_Info.dwSize);
-    EXPECT_EQ("42 43 41", hex(value("short").bytes));
+    EXPECT_EQ("42 43 41", toHex(value("short").bytes));
     ::VirtualFree(page, 0, MEM_RELEASE);
 }

@@ -36,10 +36,7 @@ struct VersionNode {
     }
 
 private:
-    static void put(std::vector<BYTE>& all, WORD w) {
-        all.push_back(LOBYTE(w));
-        all.push_back(HIBYTE(w));
-    }
+    static void put(std::vector<BYTE>& all, WORD w) { all.insert(all.end(), {LOBYTE(w), HIBYTE(w)}); }
     static void set(std::vector<BYTE>& all, size_t at, size_t w) {
         all[at] = static_cast<BYTE>(w);
         all[at + 1] = static_cast<BYTE>(w >> 8);
@@ -49,10 +46,8 @@ private:
 
 inline std::vector<BYTE> wideText(const std::string& ascii, bool closed = true) {
     std::vector<BYTE> all;
-    for (const char c : ascii) {
-        all.push_back(static_cast<BYTE>(c));
-        all.push_back(0);
-    }
+    for (const char c : ascii)
+        all.insert(all.end(), {static_cast<BYTE>(c), 0});
     all.resize(all.size() + (closed ? 2 : 0));
     return all;
 }
