@@ -145,10 +145,10 @@ TEST_F(FontPickers, ADropDownListKeepsItsAlphabet) {
         combo.AddFont(face, 1);
     combo.SetCurrentFontName("Delta");
     combo.SetCurrentFontName("Beta");
-    EXPECT_EQ("Alpha Beta Gamma ", rowTexts(combo)) << "one foreign name at a time";
+    EXPECT_EQ("Alpha|Beta|Gamma", textsOf(combo)) << "one foreign name at a time";
     EXPECT_EQ(1, combo.AddFont("Beta", 1)) << "no more a foreign one";
     combo.SetCurrentFontName("Delta");
-    EXPECT_EQ("Alpha Beta Delta Gamma ", rowTexts(combo));
+    EXPECT_EQ("Alpha|Beta|Delta|Gamma", textsOf(combo));
     EXPECT_EQ(2, combo.GetCurSel());
 }
 

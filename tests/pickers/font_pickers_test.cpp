@@ -22,17 +22,17 @@ TEST_F(FontPickers, FillThemselvesAsTold) {
     for (CComboBox* combo : std::initializer_list<CComboBox*>{&sizes, &angles, &aligns, &shapes, &spaces})
         create(*combo, 0);
     sizes.InitSize();
-    EXPECT_EQ("5.00 7.00 8.00 9.00 10.00 12.00 14.00 18.00 22.00 26.00 35.00 45.00 60.00 ", rowTexts(sizes));
+    EXPECT_EQ("5.00|7.00|8.00|9.00|10.00|12.00|14.00|18.00|22.00|26.00|35.00|45.00|60.00", textsOf(sizes));
     angles.Init();
-    EXPECT_EQ("0.00 15.00 30.00 45.00 90.00 105.00 130.00 145.00 160.00 175.00 190.00 205.00 300.00 350.00 ",
-              rowTexts(angles));
+    EXPECT_EQ("0.00|15.00|30.00|45.00|90.00|105.00|130.00|145.00|160.00|175.00|190.00|205.00|300.00|350.00",
+              textsOf(angles));
     aligns.Init();
-    EXPECT_EQ("左对齐 居中 右对齐 分散对齐 上对齐 居中 下对齐 ", rowTexts(aligns));
+    EXPECT_EQ("左对齐|居中|右对齐|分散对齐|上对齐|居中|下对齐", textsOf(aligns));
     shapes.Init();
-    EXPECT_EQ("常规 斜体 下划线 黑体 ", rowTexts(shapes));
+    EXPECT_EQ("常规|斜体|下划线|黑体", textsOf(shapes));
     for (const double dist : {3.5, 4.26, 2.0})
         spaces.AddItem(dist);
-    EXPECT_EQ("3.5磅 4.3磅 2.0磅 ", rowTexts(spaces));
+    EXPECT_EQ("3.5磅|4.3磅|2.0磅", textsOf(spaces));
     for (COrvRecordCombo* combo :
          std::initializer_list<COrvRecordCombo*>{&sizes, &angles, &aligns, &shapes, &spaces}) {
         combo->SetInit();
@@ -76,14 +76,14 @@ TEST_F(FontPickers, ValuesThatNoRowHoldsAreShownAllTheSame) {
     spaces.AddItem(3.5);
     EXPECT_TRUE(spaces.SetCurrentDist(6));
     EXPECT_TRUE(spaces.SetCurrentDist(7.25));
-    EXPECT_EQ("3.5磅 7.2磅 ", rowTexts(spaces)) << "one row at a time";
+    EXPECT_EQ("3.5磅|7.2磅", textsOf(spaces)) << "one row at a time";
     EXPECT_EQ(7.25, spaces.GetCurrentDist());
     EXPECT_TRUE(spaces.SetCurrentDist(3.5));
     EXPECT_EQ(0, spaces.GetCurSel());
     spaces.ResetContent();
     spaces.AddItem(1);
     EXPECT_TRUE(spaces.SetCurrentDist(2));
-    EXPECT_EQ("1.0磅 2.0磅 ", rowTexts(spaces)) << "the row of before is gone, and only that";
+    EXPECT_EQ("1.0磅|2.0磅", textsOf(spaces)) << "the row of before is gone, and only that";
 
     CFontAlignCmb aligns;
     create(aligns, CBS_DROPDOWNLIST);

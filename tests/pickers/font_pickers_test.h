@@ -26,16 +26,6 @@ inline std::string textOf(const CWnd& window) {
     return static_cast<LPCTSTR>(text);
 }
 
-inline std::string rowTexts(const CComboBox& combo) {
-    std::string texts;
-    for (int i = 0; i < combo.GetCount(); ++i) {
-        CString text;
-        combo.GetLBText(i, text);
-        texts += static_cast<LPCTSTR>(text) + std::string(" ");
-    }
-    return texts;
-}
-
 inline HWND fieldOf(const CComboBox& combo) {
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
@@ -62,18 +52,7 @@ protected:
     void pressInLoop(WORD key, const std::function<bool()>& condition) {
         dialog.settle();
         pressKey(key);
-        EXPECT_TRUE(waitInLoop(condition));
-    }
-    bool waitInLoop(const std::function<bool()>& condition) {
-        MSG message;
-        return waitUntil([&] {
-            while (!condition() && ::PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
-                if (!dialog.WalkPreTranslateTree(dialog.m_hWnd, &message)) {
-                    ::TranslateMessage(&message);
-                    ::DispatchMessage(&message);
-                }
-            return condition();
-        });
+        EXPECT_TRUE(pumpUntil(condition));
     }
     void leave() {
         CWnd* other = dialog.GetDlgItem(IDC_OTHER);

@@ -1,14 +1,20 @@
 #include "input.h"
 
+#include <afxwin.h>
+
 #include <vector>
 
 namespace orv::test {
 
-bool waitUntil(const std::function<bool()>& condition) {
+namespace {
+
+bool pump(const std::function<bool()>& condition, bool translated) {
     const ULONGLONG end = ::GetTickCount64() + 30000;
     while (!condition()) {
         MSG message;
         while (::PeekMessageW(&message, NULL, 0, 0, PM_REMOVE)) {
+            if (translated && CWnd::WalkPreTranslateTree(NULL, &message))
+                continue;
             ::TranslateMessage(&message);
             ::DispatchMessageW(&message);
         }
@@ -17,6 +23,16 @@ bool waitUntil(const std::function<bool()>& condition) {
         ::Sleep(1);
     }
     return true;
+}
+
+} // namespace
+
+bool waitUntil(const std::function<bool()>& condition) {
+    return pump(condition, false);
+}
+
+bool pumpUntil(const std::function<bool()>& condition) {
+    return pump(condition, true);
 }
 
 namespace {

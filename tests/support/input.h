@@ -11,6 +11,8 @@ namespace orv::test {
 
 // Until the condition holds; this thread's messages are pumped meanwhile. False after half a minute.
 bool waitUntil(const std::function<bool()>& condition);
+// The same as a program's loop does it: windows see their messages before they are dispatched.
+bool pumpUntil(const std::function<bool()>& condition);
 
 // Keys as a user presses them. A key name is a virtual key; modifiers are held around it.
 void pressKey(WORD key);
