@@ -1,6 +1,6 @@
 #include "afx_test.h"
 
-#include <filesystem>
+#include "support/scratch_folder.h"
 
 using orv::test::contentsOf;
 
@@ -8,35 +8,15 @@ const auto causeOf = orv::test::causeOf<CFileException>;
 
 namespace {
 
-// A folder of its own, gone with the test.
 class FileTest : public testing::Test {
 protected:
-    void SetUp() override {
-        m_folder = std::filesystem::temp_directory_path() /
-                   (std::string("afx_test_") + testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::remove_all(m_folder);
-        ASSERT_TRUE(std::filesystem::create_directories(m_folder));
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-    CString path(LPCSTR name) const { return CString(m_folder.string().c_str()) + "/" + name; }
-    CString written(LPCSTR name, LPCSTR text) const {
-        CFile file(path(name), CFile::modeCreate | CFile::modeWrite);
-        file.Write(text, (UINT)strlen(text));
-        return path(name);
-    }
-    static std::string textOf(LPCTSTR name) {
-        CFile file(name, CFile::modeRead);
-        return contentsOf(file);
-    }
-
-    std::filesystem::path m_folder;
+    orv::test::ScratchFolder m_folder;
 };
 
 } // namespace
 
 TEST_F(FileTest, Modes) {
-    const CString name = written("a.txt", "0123456789");
+    const CString name = m_folder.write("a.txt", "0123456789");
     {
         CFile file(name, CFile::modeReadWrite);
         EXPECT_EQ(3u, file.Seek(3, CFile::begin));
@@ -51,37 +31,38 @@ TEST_F(FileTest, Modes) {
         EXPECT_EQ(4u, file.GetPosition());
         EXPECT_EQ(4u, file.GetLength());
     }
-    EXPECT_EQ("012a", textOf(name));
+    EXPECT_EQ("012a", m_folder.read("a.txt"));
     {
         CFile file(name, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
         file.SeekToEnd();
         file.Write("!", 1);
     }
-    EXPECT_EQ("012a!", textOf(name));
+    EXPECT_EQ("012a!", m_folder.read("a.txt"));
     CFile(name, CFile::modeCreate | CFile::modeWrite).Close();
-    EXPECT_EQ("", textOf(name));
+    EXPECT_EQ("", m_folder.read("a.txt"));
 }
 
 TEST_F(FileTest, FailuresSayWhy) {
     CFileException failure;
-    EXPECT_FALSE(CFile().Open(path("missing.txt"), CFile::modeRead, &failure));
+    EXPECT_FALSE(CFile().Open(m_folder.path("missing.txt"), CFile::modeRead, &failure));
     EXPECT_EQ(CFileException::fileNotFound, failure.m_cause);
     EXPECT_GT(failure.m_lOsError, 0);
-    EXPECT_EQ(orv::test::bytesOf(path("missing.txt")), orv::test::bytesOf(failure.m_strFileName));
-    EXPECT_EQ(CFileException::fileNotFound, causeOf([this] { CFile(path("missing.txt"), CFile::modeRead); }));
+    EXPECT_EQ(orv::test::bytesOf(m_folder.path("missing.txt")), orv::test::bytesOf(failure.m_strFileName));
+    EXPECT_EQ(CFileException::fileNotFound,
+              causeOf([this] { CFile(m_folder.path("missing.txt"), CFile::modeRead); }));
     EXPECT_NE(CFileException::none,
-              causeOf([this] { CFile(path("no/such/folder"), CFile::modeCreate | 1); }));
-    EXPECT_EQ(CFileException::accessDenied, causeOf([this] { CFile(path("."), CFile::modeRead); }));
+              causeOf([this] { CFile(m_folder.path("no/such/folder"), CFile::modeCreate | 1); }));
+    EXPECT_EQ(CFileException::accessDenied, causeOf([this] { CFile(m_folder.path(), CFile::modeRead); }));
     EXPECT_NE(CFileException::none, causeOf([this] {
-                  CFile readOnly(written("r.txt", "x"), CFile::modeRead);
+                  CFile readOnly(m_folder.write("r.txt", "x"), CFile::modeRead);
                   readOnly.Write("y", 1);
               }));
     EXPECT_NE(CFileException::none,
-              causeOf([this] { CFile(written("s.txt", "x"), 0).Seek(-5, CFile::begin); }));
+              causeOf([this] { CFile(m_folder.write("s.txt", "x"), 0).Seek(-5, CFile::begin); }));
 }
 
 TEST_F(FileTest, NamesAndStatus) {
-    const CString name = written("亅誠.tar.gz", "123");
+    const CString name = m_folder.write("亅誠.tar.gz", "123");
     CFile file(name, CFile::modeRead);
     // The trail bytes are a bar and a backslash.
     EXPECT_EQ("亅誠.tar.gz", orv::test::bytesOf(file.GetFileName()));
@@ -92,20 +73,20 @@ TEST_F(FileTest, NamesAndStatus) {
     EXPECT_EQ(3, status.m_size);
     EXPECT_EQ(0, status.m_attribute & CFile::directory);
     EXPECT_NE(0u, status.m_mtime.dwHighDateTime);
-    EXPECT_TRUE(CFile::GetStatus(path("."), status) && (status.m_attribute & CFile::directory) != 0);
-    EXPECT_FALSE(CFile::GetStatus(path("missing"), status));
+    EXPECT_TRUE(CFile::GetStatus(m_folder.path(), status) && (status.m_attribute & CFile::directory) != 0);
+    EXPECT_FALSE(CFile::GetStatus(m_folder.path("missing"), status));
     file.Close();
-    CFile::Rename(name, path("誠.txt"));
-    EXPECT_EQ("123", textOf(path("誠.txt")));
-    written("other.txt", "");
+    CFile::Rename(name, m_folder.path("誠.txt"));
+    EXPECT_EQ("123", m_folder.read("誠.txt"));
+    m_folder.write("other.txt", "");
     EXPECT_EQ(CFileException::accessDenied,
-              causeOf([this] { CFile::Rename(path("誠.txt"), path("other.txt")); }));
-    CFile::Remove(path("誠.txt"));
-    EXPECT_EQ(CFileException::fileNotFound, causeOf([this] { CFile::Remove(path("誠.txt")); }));
+              causeOf([this] { CFile::Rename(m_folder.path("誠.txt"), m_folder.path("other.txt")); }));
+    CFile::Remove(m_folder.path("誠.txt"));
+    EXPECT_EQ(CFileException::fileNotFound, causeOf([this] { CFile::Remove(m_folder.path("誠.txt")); }));
 }
 
 TEST_F(FileTest, DuplicatesShareTheFile) {
-    CFile file(written("d.txt", "abc"), CFile::modeRead);
+    CFile file(m_folder.write("d.txt", "abc"), CFile::modeRead);
     CFile* copy = file.Duplicate();
     file.Close();
     char ch = 0;
@@ -117,11 +98,11 @@ TEST_F(FileTest, DuplicatesShareTheFile) {
 TEST_F(FileTest, ArchivesOverRealFiles) {
     const CString big('x', 10000);
     {
-        CFile file(path("big.bin"), CFile::modeCreate | CFile::modeWrite);
+        CFile file(m_folder.path("big.bin"), CFile::modeCreate | CFile::modeWrite);
         CArchive ar(&file, CArchive::store);
         ar << (LONG)1 << big << (LONG)2;
     }
-    CFile file(path("big.bin"), CFile::modeRead);
+    CFile file(m_folder.path("big.bin"), CFile::modeRead);
     CArchive ar(&file, CArchive::load);
     LONG first, second;
     CString text;
@@ -131,7 +112,7 @@ TEST_F(FileTest, ArchivesOverRealFiles) {
 
 #if defined(_WIN32)
 TEST_F(FileTest, SharingAndLocking) {
-    const CString name = written("s.txt", "0123456789");
+    const CString name = m_folder.write("s.txt", "0123456789");
     CFile file(name, CFile::modeReadWrite | CFile::shareDenyNone);
     CFile second(name, CFile::modeReadWrite | CFile::shareDenyNone);
     file.LockRange(0, 5);

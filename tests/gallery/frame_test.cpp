@@ -29,12 +29,36 @@ bool hasInk(const std::vector<COLORREF>& colors) {
     return std::count(colors.begin(), colors.end(), RGB(255, 255, 255)) < static_cast<int>(colors.size());
 }
 
-TEST(Frame, ShowsThePageAndScrollsIt) {
-    DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
-    ASSERT_TRUE(gallery.frame());
-    HWND bar = ::GetDlgItem(gallery.frame(), 100), page = ::GetDlgItem(gallery.frame(), 200);
-    ASSERT_TRUE(bar && page);
-    ASSERT_TRUE(gallery.waitFocus(bar));
+class Frame : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(gallery.frame() && bar);
+        ASSERT_TRUE(gallery.waitFocus(bar));
+    }
+    void TearDown() override {
+        pressKey(VK_MENU, VK_F4);
+        EXPECT_EQ(0, gallery.waitExit());
+    }
+    void tabThrough(HWND page, std::initializer_list<int> controls) const {
+        for (const int control : controls) {
+            pressKey(VK_TAB);
+            EXPECT_TRUE(gallery.waitFocus(::GetDlgItem(page, control))) << control;
+        }
+    }
+    HWND pageOf(int id) const { return ::GetDlgItem(gallery.frame(), id); }
+    // The second folder's first item.
+    static void chooseSecondFolder() {
+        for (const WORD key : {VK_END, VK_RETURN, VK_DOWN, VK_RETURN})
+            pressKey(key);
+    }
+
+    DrivenProgram gallery{"gallery.exe", "--window", "ORVFC 图库"};
+    HWND bar = ::GetDlgItem(gallery.frame(), 100);
+};
+
+TEST_F(Frame, ShowsThePageAndScrollsIt) {
+    HWND page = pageOf(200);
+    ASSERT_TRUE(page);
     EXPECT_TRUE(waitUntil([&] { return ::IsWindowVisible(page); }));
     EXPECT_TRUE(waitUntil([&] { return hasInk(sample(page)); }));
     pressKey(VK_TAB);
@@ -55,22 +79,13 @@ TEST(Frame, ShowsThePageAndScrollsIt) {
         ::MapWindowPoints(NULL, gallery.frame(), reinterpret_cast<POINT*>(&inner), 2);
         return inner.right == frame.right && inner.bottom == frame.bottom && inner.left == 160;
     }));
-    pressKey(VK_MENU, VK_F4);
-    EXPECT_EQ(0, gallery.waitExit());
 }
 
-TEST(Frame, TheBarChoosesThePage) {
-    DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
-    ASSERT_TRUE(gallery.frame());
-    HWND bar = ::GetDlgItem(gallery.frame(), 100), first = ::GetDlgItem(gallery.frame(), 200);
-    ASSERT_TRUE(gallery.waitFocus(bar));
-    // The second folder's first item.
-    pressKey(VK_END);
-    pressKey(VK_RETURN);
-    pressKey(VK_DOWN);
-    pressKey(VK_RETURN);
+TEST_F(Frame, TheBarChoosesThePage) {
+    HWND first = pageOf(200);
+    chooseSecondFolder();
     EXPECT_TRUE(waitUntil([&] {
-        HWND second = ::GetDlgItem(gallery.frame(), 201);
+        HWND second = pageOf(201);
         return second && ::IsWindowVisible(second) && !::IsWindowVisible(first);
     }));
     EXPECT_EQ(bar, gallery.focus());
@@ -82,41 +97,23 @@ TEST(Frame, TheBarChoosesThePage) {
         clickAt(place.left + 80, place.top + 40);
         return ::IsWindowVisible(first) != FALSE;
     }));
-    pressKey(VK_MENU, VK_F4);
-    EXPECT_EQ(0, gallery.waitExit());
 }
 
-TEST(Frame, ThePickersDriveTheirCanvas) {
-    DrivenProgram gallery("gallery.exe", "--window", "ORVFC 图库");
-    ASSERT_TRUE(gallery.frame());
-    HWND bar = ::GetDlgItem(gallery.frame(), 100);
-    ASSERT_TRUE(gallery.waitFocus(bar));
-    for (const WORD key : {VK_END, VK_RETURN, VK_DOWN, VK_RETURN})
-        pressKey(key);
+TEST_F(Frame, ThePickersDriveTheirCanvas) {
+    chooseSecondFolder();
     HWND page = NULL;
-    ASSERT_TRUE(waitUntil([&] { return (page = ::GetDlgItem(gallery.frame(), 201)) != NULL; }));
+    ASSERT_TRUE(waitUntil([&] { return (page = pageOf(201)) != NULL; }));
     EXPECT_TRUE(waitUntil([&] { return ::IsWindowVisible(page) && hasInk(sample(page)); }));
-    pressKey(VK_TAB);
-    ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, 1))) << "the colours";
-    for (const WORD control : {2, 3, 4, 5}) {
-        pressKey(VK_TAB);
-        ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, control)));
-    }
+    tabThrough(page, {1, 2, 3, 4, 5}); // from the colours on
     const auto before = sample(page);
     pressKey(VK_HOME); // no filling
     EXPECT_TRUE(waitUntil([&] { return sample(page) != before; }));
-    for (const WORD control : {6, 7}) {
-        pressKey(VK_TAB);
-        ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, control)));
-    }
+    tabThrough(page, {6, 7});
     pressKey(VK_TAB);
     EXPECT_TRUE(gallery.waitFocus(bar)) << "behind the last control";
-    pressKey(VK_TAB);
-    ASSERT_TRUE(gallery.waitFocus(::GetDlgItem(page, 1)));
+    tabThrough(page, {1});
     pressKey(VK_SHIFT, VK_TAB);
     EXPECT_TRUE(gallery.waitFocus(bar)) << "before the first one";
-    pressKey(VK_MENU, VK_F4);
-    EXPECT_EQ(0, gallery.waitExit());
 }
 
 } // namespace

@@ -12,74 +12,64 @@ namespace {
 bool parse(const std::string& commandLine, Options& options, std::string& message) {
     std::istringstream stream("gallery " + commandLine);
     std::vector<std::string> words;
-    for (std::string word; stream >> word;) {
+    for (std::string word; stream >> word;)
         words.push_back(word == "''" ? "" : word);
-    }
     std::vector<char*> argv;
-    for (std::string& word : words) {
+    for (std::string& word : words)
         argv.push_back(word.data());
-    }
     argv.push_back(nullptr);
     return gallery::parseOptions(int(words.size()), argv.data(), options, message);
 }
 
+const std::string kDraw = "--draw a --out a.png ";
+
 TEST(Options, RefusesWithAReason) {
-    struct {
-        const char* commandLine;
+    const struct {
         const char* part; // of the message
-    } const rows[] = {
-        {"--draw a", "needs --out"},
-        {"--out a.png", "nothing to do"},
-        {"--type 3", "nothing to do"},
-        {"--tour d --draw a --out a.png", "stands alone"},
-        {"--tour d --out a.png", "stands alone"},
-        {"--window --tour d", "stands alone"},
-        {"--draw a --out a.png --window", "stands alone"},
-        {"--tour ''", "name of a folder"},
-        {"--draw '' --out a.png", "name of a file"},
-        {"--draw a --out a.jpg", ".png or .bmp"},
-        {"--draw a --out .png", ".png or .bmp"},
-        {"--draw a --out a.png --type 5", "one of 0"},
-        {"--draw a --out a.png --type 100", "one of 0"},
-        {"--draw a --out a.png --type 3x", "one of 0"},
-        {"--draw a --out a.png --type ''", "one of 0"},
-        {"--draw a --out a.png --width 0", "1 to 200"},
-        {"--draw a --out a.png --width 201", "1 to 200"},
-        {"--draw a --out a.png --width 99999999999", "1 to 200"},
-        {"--draw a --out a.png --color red", "hexadecimal"},
-        {"--draw a --out a.png --color #12345", "hexadecimal"},
-        {"--draw a --out a.png --color #1234567", "hexadecimal"},
-        {"--draw a --out a.png --color #-12345", "hexadecimal"},
-        {"--draw a --out a.png --size 100", "width and a height"},
-        {"--draw a --out a.png --size 0x100", "width and a height"},
-        {"--draw a --out a.png --size 16385x1", "width and a height"},
-        {"--draw a --out a.png --size 1x16385", "width and a height"},
-        {"--draw a --out a.png --size 10x10x10", "width and a height"},
-        {"--draw a --out a.png b", "not an option: b"},
+        std::vector<std::string> commandLines;
+    } rows[] = {
+        {"needs --out", {"--draw a"}},
+        {"nothing to do", {"--out a.png", "--type 3"}},
+        {"stands alone",
+         {"--tour d --draw a --out a.png", "--tour d --out a.png", "--window --tour d",
+          "--draw a --out a.png --window"}},
+        {"name of a folder", {"--tour ''"}},
+        {"name of a file", {"--draw '' --out a.png"}},
+        {".png or .bmp", {"--draw a --out a.jpg", "--draw a --out .png"}},
+        {"one of 0", {kDraw + "--type 5", kDraw + "--type 100", kDraw + "--type 3x", kDraw + "--type ''"}},
+        {"1 to 200", {kDraw + "--width 0", kDraw + "--width 201", kDraw + "--width 99999999999"}},
+        {"hexadecimal",
+         {kDraw + "--color red", kDraw + "--color #12345", kDraw + "--color #1234567",
+          kDraw + "--color #-12345"}},
+        {"width and a height",
+         {kDraw + "--size 100", kDraw + "--size 0x100", kDraw + "--size 16385x1", kDraw + "--size 1x16385",
+          kDraw + "--size 10x10x10"}},
+        {"not an option: b", {kDraw + "b"}},
     };
+    for (const auto& row : rows)
+        for (const std::string& commandLine : row.commandLines) {
+            SCOPED_TRACE(commandLine);
+            Options options;
+            std::string message;
+            EXPECT_FALSE(parse(commandLine, options, message));
+            EXPECT_NE(message.find(row.part), std::string::npos) << message;
+        }
+}
+
+TEST(Options, Tasks) {
+    const struct {
+        const char* commandLine;
+        Options::Task task;
+    } rows[] = {{"", Options::Task::help},
+                {"--help", Options::Task::help},
+                {"--draw a --out a.png --help", Options::Task::help},
+                {"--window", Options::Task::window}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.commandLine);
         Options options;
         std::string message;
-        EXPECT_FALSE(parse(row.commandLine, options, message));
-        EXPECT_NE(message.find(row.part), std::string::npos) << message;
+        EXPECT_TRUE(parse(row.commandLine, options, message)) << row.commandLine << message;
+        EXPECT_EQ(options.task, row.task) << row.commandLine;
     }
-}
-
-TEST(Options, WithoutArgumentsIsHelp) {
-    for (const char* commandLine : {"", "--help", "--draw a --out a.png --help"}) {
-        Options options;
-        std::string message;
-        EXPECT_TRUE(parse(commandLine, options, message)) << commandLine;
-        EXPECT_EQ(options.task, Options::Task::help) << commandLine;
-    }
-}
-
-TEST(Options, TheWindowNeedsNoMore) {
-    Options options;
-    std::string message;
-    EXPECT_TRUE(parse("--window", options, message)) << message;
-    EXPECT_EQ(options.task, Options::Task::window);
 }
 
 TEST(Options, ReadsThePicture) {

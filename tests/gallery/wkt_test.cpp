@@ -6,17 +6,24 @@
 using gallery::parseWkt;
 using gallery::WktError;
 using gallery::WktLines;
+using namespace std::string_view_literals;
 
 namespace {
 
 // One letter a figure: its number of points, 'o' behind it when it is a ring.
 std::string figuresOf(const WktLines& lines) {
     std::string text;
-    for (const gallery::WktFigure& figure : lines.figures) {
+    for (const gallery::WktFigure& figure : lines.figures)
         text += std::to_string(figure.count) + (figure.closed ? "o " : " ");
-    }
     return text;
 }
+
+struct Parsed {
+    explicit Parsed(std::string_view text) : good(parseWkt(text, lines, error)) {}
+    WktLines lines;
+    WktError error;
+    bool good;
+};
 
 struct AcceptRow {
     const char* text;
@@ -52,29 +59,26 @@ const AcceptRow acceptRows[] = {
 TEST(Wkt, Accepts) {
     for (const AcceptRow& row : acceptRows) {
         SCOPED_TRACE(row.text);
-        WktLines lines;
-        WktError error;
-        ASSERT_TRUE(parseWkt(row.text, lines, error))
-            << error.line << ":" << error.column << ": " << error.text;
-        EXPECT_EQ(figuresOf(lines), row.figures);
-        EXPECT_EQ(lines.points.back().x, row.lastX);
-        EXPECT_EQ(lines.points.back().y, row.lastY);
+        const Parsed parsed(row.text);
+        ASSERT_TRUE(parsed.good) << parsed.error.line << ":" << parsed.error.column << ": "
+                                 << parsed.error.text;
+        EXPECT_EQ(figuresOf(parsed.lines), row.figures);
+        EXPECT_EQ(parsed.lines.points.back().x, row.lastX);
+        EXPECT_EQ(parsed.lines.points.back().y, row.lastY);
     }
 }
 
 TEST(Wkt, TextsWithoutLinesGiveNone) {
     for (const char* text : {"", "\n\n", "# nothing", "POINT(1 2)", "LINESTRING EMPTY", "multipolygon empty",
                              "POLYGON ZM EMPTY", "\xEF\xBB\xBF", "\r\n"}) {
-        SCOPED_TRACE(text);
-        WktLines lines;
-        WktError error;
-        EXPECT_TRUE(parseWkt(text, lines, error)) << error.text;
-        EXPECT_TRUE(lines.figures.empty());
+        const Parsed parsed(text);
+        EXPECT_TRUE(parsed.good) << text << parsed.error.text;
+        EXPECT_TRUE(parsed.lines.figures.empty()) << text;
     }
 }
 
 struct RejectRow {
-    const char* text;
+    std::string_view text;
     size_t line, column;
     const char* part; // of the message
 };
@@ -121,67 +125,48 @@ const RejectRow rejectRows[] = {
     {"\n\r\n  42", 3, 3, "expected a geometry, found '4'"},
     {"\xEF\xBB\xBF?", 1, 1, "expected a geometry, found '?'"},
     {"\xFF\xFEL", 1, 1, "byte 0xFF"},
+    {"LINESTRING(1 2\0,3 4)"sv, 1, 15, "byte 0x00"},
     {"LINESTRING(1 2,3 4)\nLINESTRING(1 2,3 4)\nLINESTRING(1 2,3 x)", 3, 18, "expected a number"},
 };
 
 TEST(Wkt, RejectsAndPointsAtTheFault) {
     for (const RejectRow& row : rejectRows) {
         SCOPED_TRACE(row.text);
-        WktLines lines;
-        WktError error;
-        EXPECT_FALSE(parseWkt(row.text, lines, error));
-        EXPECT_EQ(error.line, row.line);
-        EXPECT_EQ(error.column, row.column) << error.text;
-        EXPECT_NE(error.text.find(row.part), std::string::npos) << error.text;
-        EXPECT_TRUE(lines.points.empty() && lines.figures.empty());
+        const Parsed parsed(row.text);
+        EXPECT_FALSE(parsed.good);
+        EXPECT_EQ(parsed.error.line, row.line);
+        EXPECT_EQ(parsed.error.column, row.column) << parsed.error.text;
+        EXPECT_NE(parsed.error.text.find(row.part), std::string::npos) << parsed.error.text;
+        EXPECT_TRUE(parsed.lines.points.empty() && parsed.lines.figures.empty());
     }
 }
 
 TEST(Wkt, RejectsEveryTruncation) {
     const std::string whole = "MULTIPOLYGON(((0 0,4 0,4 3,0 0)),((5 5,6 5,6 6,5 5)))";
     for (size_t length = 1; length < whole.size(); ++length) {
-        WktLines lines;
-        WktError error;
-        EXPECT_FALSE(parseWkt(whole.substr(0, length), lines, error)) << length;
-        EXPECT_LE(error.column, length + 1);
+        const Parsed parsed(std::string_view(whole).substr(0, length));
+        EXPECT_FALSE(parsed.good) << length;
+        EXPECT_LE(parsed.error.column, length + 1);
     }
-}
-
-TEST(Wkt, ReadsBytesThatAreNoText) {
-    WktLines lines;
-    WktError error;
-    EXPECT_FALSE(parseWkt(std::string_view("LINESTRING(1 2\0,3 4)", 20), lines, error));
-    EXPECT_EQ(error.column, 15u);
-    EXPECT_NE(error.text.find("byte 0x00"), std::string::npos) << error.text;
-}
-
-std::string longLine(size_t points) {
-    std::string text = "LINESTRING(0 0";
-    for (size_t i = 1; i < points; ++i) {
-        text += "," + std::to_string(i) + ".25 " + std::to_string(i % 1000);
-    }
-    return text + ")";
 }
 
 TEST(Wkt, TenMegabytesInOneLine) {
-    const std::string text = longLine(800'000);
+    std::string text = "LINESTRING(0 0";
+    for (int i = 1; i < 800'000; ++i)
+        text += "," + std::to_string(i) + ".25 " + std::to_string(i % 1000);
     ASSERT_GT(text.size(), 10'000'000u);
-    WktLines lines;
-    WktError error;
-    EXPECT_TRUE(parseWkt(text, lines, error)) << error.text;
-    EXPECT_EQ(lines.points.size(), 800'000u);
+    const Parsed parsed(text + ")");
+    EXPECT_TRUE(parsed.good) << parsed.error.text;
+    EXPECT_EQ(parsed.lines.points.size(), 800'000u);
 }
 
 TEST(Wkt, LongRunsOfOneByteEndQuickly) {
     // Each would take hours if anything were scanned again from its start.
     for (const char* run : {"(", " ", "1", "A", "\n", "-", "0.", "#", ","}) {
         std::string text = "LINESTRING(";
-        while (text.size() < 4'000'000) {
+        while (text.size() < 4'000'000)
             text += run;
-        }
-        WktLines lines;
-        WktError error;
-        EXPECT_FALSE(parseWkt(text, lines, error)) << run;
+        EXPECT_FALSE(Parsed(text).good) << run;
     }
 }
 

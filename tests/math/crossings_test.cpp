@@ -1,39 +1,22 @@
-#include <orvmathfunc/orvmathfunc.h>
+#include "math_test.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
 #include <vector>
 
 namespace {
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double pi = 3.14159265358979323846;
-
-struct Point {
-    double x, y;
-};
-
 using Points = std::vector<Point>;
 
-void expectPoints(const Points& got, const Points& expected, double tolerance) {
-    ASSERT_EQ(got.size(), expected.size());
-    for (size_t i = 0; i < got.size(); ++i) {
-        EXPECT_NEAR(got[i].x, expected[i].x, tolerance) << "point " << i;
-        EXPECT_NEAR(got[i].y, expected[i].y, tolerance) << "point " << i;
+// What was found lies where it should, and nothing was written where nothing is found: a single point stands
+// in both pairs when there are two.
+void expectCrossings(const Crossings& found, const Points& expected, Point origin, int outputs) {
+    ASSERT_EQ(found.count, static_cast<int>(expected.size()));
+    for (int i = 0; i < outputs; ++i) {
+        const Point p = found.at[i];
+        if (expected.empty())
+            EXPECT_EQ(p, untouched);
+        else
+            EXPECT_LE(distance(p - origin, expected[i < found.count ? i : 0]), 1e-7) << p << i;
     }
-}
-
-// Reads four outputs as a list; checks what stands in the outputs that carry no point of their own.
-Points listed(int count, const Point (&out)[2]) {
-    const bool untouched = out[0].x == -77 && out[0].y == -77 && out[1].x == -77 && out[1].y == -77;
-    const bool repeated = out[0].x == out[1].x && out[0].y == out[1].y;
-    EXPECT_EQ(untouched, count == 0);
-    EXPECT_EQ(repeated, count < 2) << "one point stands in both pairs";
-    EXPECT_TRUE(count >= 0 && count <= 2);
-    return Points(out, out + count);
 }
 
 // Every figure is also tried far from the origin, where a unit is worth few digits.
@@ -68,105 +51,83 @@ TEST(Crossings, TwoSegments) {
     for (const auto& at : places)
         for (const auto& r : rows) {
             SCOPED_TRACE(testing::Message() << "row " << &r - rows << " at " << at.x);
-            Point p{-77, -77};
-            const int answer = GetCrossPointBetweenLineAndLineInBounds(
-                r.a.x + at.x, r.a.y + at.y, r.b.x + at.x, r.b.y + at.y, r.c.x + at.x, r.c.y + at.y,
-                r.d.x + at.x, r.d.y + at.y, &p.x, &p.y);
-            EXPECT_EQ(answer, int(r.crossing.size()));
-            if (answer == 1)
-                expectPoints({{p.x - at.x, p.y - at.y}}, r.crossing, 1e-8);
-            else
-                EXPECT_EQ(p.x, -77);
+            expectCrossings(crossSegments(r.a + at, r.b + at, r.c + at, r.d + at), r.crossing, at, 1);
         }
 }
 
 TEST(Crossings, AGapMadeByRoundingIsClosed) {
     // 0.1 + 0.2 is not 0.3: the upright segment ends a rounding error below the level one.
-    double x = -1, y = -1;
-    EXPECT_EQ(GetCrossPointBetweenLineAndLineInBounds(0, 0.3, 1, 0.3, 0.5, 0.1 + 0.2, 0.5, 1, &x, &y), 1);
-    EXPECT_EQ(x, 0.5);
+    const Crossings upright = crossSegments({0, 0.3}, {1, 0.3}, {0.5, 0.1 + 0.2}, {0.5, 1});
+    EXPECT_EQ(upright.count, 1);
+    EXPECT_EQ(upright.at[0].x, 0.5);
     // An upright one whose end is a rounding error away from (1e7 / 3, 1e7 / 7) on a shallow slope.
-    const double px = 1e7 / 3, py = 1e7 / 7;
-    EXPECT_EQ(GetCrossPointBetweenLineAndLineInBounds(px - 70, py - 0.7, px + 30, py + 0.3, px, py, px,
-                                                      py + 5, &x, &y),
-              1);
-    EXPECT_NEAR(x, px, 1e-6);
-    EXPECT_EQ(GetCrossPointBetweenLineAndLineInBounds(px - 70, py - 0.7, px + 30, py + 0.3, px, py + 1e-5, px,
-                                                      py + 5, &x, &y),
-              0);
+    const Point p = {1e7 / 3, 1e7 / 7};
+    const Crossings slope = crossSegments(p - Point{70, 0.7}, p + Point{30, 0.3}, p, p + Point{0, 5});
+    EXPECT_EQ(slope.count, 1);
+    EXPECT_NEAR(slope.at[0].x, p.x, 1e-6);
+    EXPECT_EQ(
+        crossSegments(p - Point{70, 0.7}, p + Point{30, 0.3}, p + Point{0, 1e-5}, p + Point{0, 5}).count, 0);
 }
 
 TEST(Crossings, NothingCrossesAtNoNumber) {
-    for (double bad : {nan, inf, -inf})
+    for (double bad : {double(NAN), inf, -inf})
         for (int place = 0; place < 8; ++place) {
             SCOPED_TRACE(testing::Message() << bad << " at " << place);
             double v[] = {-2, 1, 4, 1, 0, 0, 2, 2}; // crosses the box and, read as a segment, the diagonal
             v[place] = bad;
-            Point out[2] = {{-77, -77}, {-77, -77}};
-            EXPECT_EQ(GetCrossPointBetweenLineAndLineInBounds(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7],
-                                                              &out[0].x, &out[0].y),
-                      0);
-            EXPECT_EQ(GetCrossPointBetweenLineAndBox(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7],
-                                                     &out[0].x, &out[0].y, &out[1].x, &out[1].y),
-                      0);
+            const Point a = {v[0], v[1]}, b = {v[2], v[3]}, c = {v[4], v[5]}, d = {v[6], v[7]};
             // As an arc: centre, radius 2, from 2 to the bad angle or the like.
-            EXPECT_EQ(GetCrossPointBetweenLineAndArcInBounds(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7],
-                                                             v[7], &out[0].x, &out[0].y, &out[1].x,
-                                                             &out[1].y),
-                      0);
-            EXPECT_EQ(out[0].x, -77);
+            for (const Crossings& found :
+                 {crossSegments(a, b, c, d), crossBox(a, b, c, d), crossArc(a, b, c, v[6], v[7], v[7])}) {
+                EXPECT_EQ(found.count, 0);
+                EXPECT_EQ(found.at[0], untouched);
+            }
         }
 }
 
 struct BoxRow {
     Point a, b;
-    double left, top, right, bottom;
+    Point leftTop, rightBottom;
     Points crossings;
 };
 
 TEST(Crossings, SegmentAndBox) {
     const BoxRow rows[] = {
-        {{-5, 5}, {15, 5}, 0, 0, 10, 10, {{0, 5}, {10, 5}}}, // in the order of the segment
-        {{15, 5}, {-5, 5}, 0, 0, 10, 10, {{10, 5}, {0, 5}}},
-        {{5, 15}, {5, -5}, 0, 0, 10, 10, {{5, 10}, {5, 0}}},
-        {{-2, 2}, {6, 10}, 0, 0, 10, 10, {{0, 4}, {6, 10}}},
-        {{5, 5}, {15, 5}, 0, 0, 10, 10, {{10, 5}}}, // from the inside
-        {{-5, 5}, {5, 5}, 0, 0, 10, 10, {{0, 5}}},
-        {{2, 2}, {8, 7}, 0, 0, 10, 10, {}},                     // within
-        {{-5, 11}, {15, 11}, 0, 0, 10, 10, {}},                 // past
-        {{-5, 5}, {-1, 5}, 0, 0, 10, 10, {}},                   // short of it
-        {{-5, 4}, {4, -5.5}, 0, 0, 10, 10, {}},                 // past a corner
-        {{-5, -5}, {15, 15}, 0, 0, 10, 10, {{0, 0}, {10, 10}}}, // corner to corner
-        {{-5, 5}, {5, -5}, 0, 0, 10, 10, {{0, 0}}},             // by a corner
-        {{5, 15}, {15, 5}, 0, 0, 10, 10, {{10, 10}}},
-        {{-5, 5}, {0, 5}, 0, 0, 10, 10, {{0, 5}}}, // an end on the border
-        {{5, 5}, {10, 5}, 0, 0, 10, 10, {{10, 5}}},
-        {{0, 5}, {-5, 5}, 0, 0, 10, 10, {{0, 5}}},
-        {{0, 5}, {5, 5}, 0, 0, 10, 10, {{0, 5}}},
-        {{0, 3}, {10, 7}, 0, 0, 10, 10, {{0, 3}, {10, 7}}},
-        {{-5, 0}, {15, 0}, 0, 0, 10, 10, {{0, 0}, {10, 0}}}, // along a side
-        {{15, 10}, {4, 10}, 0, 0, 10, 10, {{10, 10}, {4, 10}}},
-        {{2, 0}, {8, 0}, 0, 0, 10, 10, {{2, 0}, {8, 0}}},
-        {{-5, 0}, {0, 0}, 0, 0, 10, 10, {{0, 0}}},
-        {{-5, 5}, {15, 5}, 10, 0, 0, 10, {{0, 5}, {10, 5}}}, // sides exchanged
-        {{-5, 5}, {15, 5}, 0, 10, 10, 0, {{0, 5}, {10, 5}}},
-        {{-5, 5}, {15, 5}, 4, 0, 4, 10, {{4, 5}}}, // no width
-        {{4, -5}, {4, 5}, 4, 0, 4, 10, {{4, 0}, {4, 5}}},
-        {{0, 0}, {8, 8}, 4, 4, 4, 4, {{4, 4}}}, // a point
-        {{0, 0}, {8, 9}, 4, 4, 4, 4, {}},
-        {{0, 5}, {0, 5}, 0, 0, 10, 10, {}}, // a segment of no length
+        {{-5, 5}, {15, 5}, {0, 0}, {10, 10}, {{0, 5}, {10, 5}}}, // in the order of the segment
+        {{15, 5}, {-5, 5}, {0, 0}, {10, 10}, {{10, 5}, {0, 5}}},
+        {{5, 15}, {5, -5}, {0, 0}, {10, 10}, {{5, 10}, {5, 0}}},
+        {{-2, 2}, {6, 10}, {0, 0}, {10, 10}, {{0, 4}, {6, 10}}},
+        {{5, 5}, {15, 5}, {0, 0}, {10, 10}, {{10, 5}}}, // from the inside
+        {{-5, 5}, {5, 5}, {0, 0}, {10, 10}, {{0, 5}}},
+        {{2, 2}, {8, 7}, {0, 0}, {10, 10}, {}},                     // within
+        {{-5, 11}, {15, 11}, {0, 0}, {10, 10}, {}},                 // past
+        {{-5, 5}, {-1, 5}, {0, 0}, {10, 10}, {}},                   // short of it
+        {{-5, 4}, {4, -5.5}, {0, 0}, {10, 10}, {}},                 // past a corner
+        {{-5, -5}, {15, 15}, {0, 0}, {10, 10}, {{0, 0}, {10, 10}}}, // corner to corner
+        {{-5, 5}, {5, -5}, {0, 0}, {10, 10}, {{0, 0}}},             // by a corner
+        {{5, 15}, {15, 5}, {0, 0}, {10, 10}, {{10, 10}}},
+        {{-5, 5}, {0, 5}, {0, 0}, {10, 10}, {{0, 5}}}, // an end on the border
+        {{5, 5}, {10, 5}, {0, 0}, {10, 10}, {{10, 5}}},
+        {{0, 5}, {-5, 5}, {0, 0}, {10, 10}, {{0, 5}}},
+        {{0, 5}, {5, 5}, {0, 0}, {10, 10}, {{0, 5}}},
+        {{0, 3}, {10, 7}, {0, 0}, {10, 10}, {{0, 3}, {10, 7}}},
+        {{-5, 0}, {15, 0}, {0, 0}, {10, 10}, {{0, 0}, {10, 0}}}, // along a side
+        {{15, 10}, {4, 10}, {0, 0}, {10, 10}, {{10, 10}, {4, 10}}},
+        {{2, 0}, {8, 0}, {0, 0}, {10, 10}, {{2, 0}, {8, 0}}},
+        {{-5, 0}, {0, 0}, {0, 0}, {10, 10}, {{0, 0}}},
+        {{-5, 5}, {15, 5}, {10, 0}, {0, 10}, {{0, 5}, {10, 5}}}, // sides exchanged
+        {{-5, 5}, {15, 5}, {0, 10}, {10, 0}, {{0, 5}, {10, 5}}},
+        {{-5, 5}, {15, 5}, {4, 0}, {4, 10}, {{4, 5}}}, // no width
+        {{4, -5}, {4, 5}, {4, 0}, {4, 10}, {{4, 0}, {4, 5}}},
+        {{0, 0}, {8, 8}, {4, 4}, {4, 4}, {{4, 4}}}, // a point
+        {{0, 0}, {8, 9}, {4, 4}, {4, 4}, {}},
+        {{0, 5}, {0, 5}, {0, 0}, {10, 10}, {}}, // a segment of no length
     };
     for (const auto& at : places)
         for (const auto& r : rows) {
             SCOPED_TRACE(testing::Message() << "row " << &r - rows << " at " << at.x);
-            Point out[2] = {{-77, -77}, {-77, -77}};
-            const int count = GetCrossPointBetweenLineAndBox(
-                r.a.x + at.x, r.a.y + at.y, r.b.x + at.x, r.b.y + at.y, r.left + at.x, r.top + at.y,
-                r.right + at.x, r.bottom + at.y, &out[0].x, &out[0].y, &out[1].x, &out[1].y);
-            Points got = listed(count, out);
-            for (auto& p : got)
-                p = {p.x - at.x, p.y - at.y};
-            expectPoints(got, r.crossings, 1e-7);
+            expectCrossings(crossBox(r.a + at, r.b + at, r.leftTop + at, r.rightBottom + at), r.crossings, at,
+                            2);
         }
     EXPECT_EQ(GetCrossPointBetweenLineAndBox(-5, 5, 15, 5, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr),
               2);
@@ -174,18 +135,13 @@ TEST(Crossings, SegmentAndBox) {
 
 TEST(Crossings, TouchingABoxSurvivesRounding) {
     const double third = 1.0 / 3, over = std::nextafter(third, 1);
-    Point out[2] = {{-77, -77}, {-77, -77}};
-    const auto count = [&](Point a, Point b) {
-        return GetCrossPointBetweenLineAndBox(a.x, a.y, b.x, b.y, 0, 0, third, third, &out[0].x, &out[0].y,
-                                              &out[1].x, &out[1].y);
-    };
+    const auto count = [&](Point a, Point b) { return crossBox(a, b, {0, 0}, {third, third}).count; };
     EXPECT_EQ(count({1, 0.1}, {over, 0.1}), 1); // ends a rounding error before the side
-    EXPECT_EQ(out[0].x, third);
+    EXPECT_EQ(crossBox({1, 0.1}, {over, 0.1}, {0, 0}, {third, third}).at[0].x, third);
     EXPECT_EQ(count({over, -1}, {over, 1}), 2);                                // runs along it
     EXPECT_EQ(count({over + 0.1, third - 0.1}, {third - 0.1, over + 0.1}), 1); // past the corner
     EXPECT_EQ(count({third + 0.1 - 1e-16, third - 0.1}, {third - 0.1 - 1e-16, third + 0.1}),
               1); // over the corner
-    EXPECT_EQ(out[0].x, third);
     EXPECT_EQ(count({third - 1, third + 0.001 - 4e-16}, {third + 1, third - 0.001 - 4e-16}), 1); // at a slant
     EXPECT_EQ(count({third + 0.1 - 1e-9, third - 0.1}, {third - 0.1 - 1e-9, third + 0.1}), 2);   // a real cut
     const double under = std::nextafter(third, 0);
@@ -228,14 +184,8 @@ TEST(Crossings, SegmentAndArc) {
     for (const auto& at : places)
         for (const auto& r : rows) {
             SCOPED_TRACE(testing::Message() << "row " << &r - rows << " at " << at.x);
-            Point out[2] = {{-77, -77}, {-77, -77}};
-            const int count = GetCrossPointBetweenLineAndArcInBounds(
-                r.a.x + at.x, r.a.y + at.y, r.b.x + at.x, r.b.y + at.y, r.centre.x + at.x, r.centre.y + at.y,
-                r.radius, r.start, r.end, &out[0].x, &out[0].y, &out[1].x, &out[1].y);
-            Points got = listed(count, out);
-            for (auto& p : got)
-                p = {p.x - at.x, p.y - at.y};
-            expectPoints(got, r.crossings, 1e-7);
+            expectCrossings(crossArc(r.a + at, r.b + at, r.centre + at, r.radius, r.start, r.end),
+                            r.crossings, at, 2);
         }
     EXPECT_EQ(GetCrossPointBetweenLineAndArcInBounds(-9, 0, 9, 0, 0, 0, 5, 0, 1, nullptr, nullptr, nullptr,
                                                      nullptr),
@@ -244,10 +194,8 @@ TEST(Crossings, SegmentAndArc) {
 
 TEST(Crossings, TouchingAnArcSurvivesRounding) {
     const double third = 1.0 / 3;
-    Point out[2] = {{-77, -77}, {-77, -77}};
     const auto count = [&](Point a, Point b, double start, double end) {
-        return GetCrossPointBetweenLineAndArcInBounds(a.x, a.y, b.x, b.y, 3, 4, third, start, end, &out[0].x,
-                                                      &out[0].y, &out[1].x, &out[1].y);
+        return crossArc(a, b, {3, 4}, third, start, end).count;
     };
     // A touching line, a rounding error inside or outside the circle; then a real cut.
     EXPECT_EQ(count({2, std::nextafter(4 - third, 0)}, {5, std::nextafter(4 - third, 0)}, 0, 0), 1);

@@ -1,16 +1,8 @@
-#include <orvmathfunc/orvmathfunc.h>
-
-#include <gtest/gtest.h>
+#include "math_test.h"
 
 #include <climits>
-#include <cmath>
-#include <limits>
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double pi = 3.14159265358979323846;
 
 struct Distances {
     double px, py, x1, y1, x2, y2, toSegment, toLine;
@@ -38,9 +30,9 @@ TEST(Measures, DistancesFromAPoint) {
         EXPECT_DOUBLE_EQ(GetDistFromPointToLineSegment(r.px, r.py, r.x2, r.y2, r.x1, r.y1), r.toSegment);
         EXPECT_DOUBLE_EQ(GetDistFromPointToLinePer(r.px, r.py, r.x1, r.y1, r.x2, r.y2), r.toLine);
     }
-    EXPECT_TRUE(std::isnan(GetDistance(0, 0, nan, 0)));
-    EXPECT_TRUE(std::isnan(GetDistFromPointToLineSegment(0, nan, 0, 0, 1, 0)));
-    EXPECT_TRUE(std::isnan(GetDistFromPointToLinePer(0, nan, 0, 0, 1, 0)));
+    EXPECT_TRUE(std::isnan(GetDistance(0, 0, NAN, 0)));
+    EXPECT_TRUE(std::isnan(GetDistFromPointToLineSegment(0, NAN, 0, 0, 1, 0)));
+    EXPECT_TRUE(std::isnan(GetDistFromPointToLinePer(0, NAN, 0, 0, 1, 0)));
     EXPECT_EQ(GetDistance(0, 0, -inf, 0), inf);
 }
 
@@ -115,12 +107,12 @@ TEST(Measures, Between) {
     }
     EXPECT_TRUE(BetweenDistance(5, -inf, inf, 0));
     for (int place = 0; place < 4; ++place) {
-        const double v[] = {place == 0 ? nan : 5, place == 1 ? nan : 0, place == 2 ? nan : 10,
-                            place == 3 ? nan : 0};
+        double v[] = {5, 0, 10, 0};
+        v[place] = NAN;
         EXPECT_FALSE(BetweenDistance(v[0], v[1], v[2], v[3])) << place;
     }
-    EXPECT_TRUE(
-        BetweenDistanceInt(INT_MIN, INT_MAX, INT_MIN, INT_MAX)); // no wrap-around in the widened bounds
+    // No wrap-around in the widened bounds.
+    EXPECT_TRUE(BetweenDistanceInt(INT_MIN, INT_MAX, INT_MIN, INT_MAX));
     EXPECT_FALSE(BetweenDistanceInt(INT_MIN, INT_MAX, INT_MAX, 1));
 }
 
@@ -131,39 +123,38 @@ struct Nearest {
 };
 
 TEST(Measures, NearestValue) {
-    const Nearest rows[] = {
-        {1.234567, -5, 1.23457},
-        {-1.234567, -5, -1.23457},
-        {1.234567, 0, 1},
-        {0.1 + 0.2, -5, 0.3},
-        {14, 1, 10},
-        {15, 1, 20},
-        {-15, 1, -20},
-        {-25, 1, -30},
-        {2.5, 0, 3},
-        {-2.5, 0, -3},
-        {0.125, -2, 0.13},
-        {0.49999999999999994, 0, 0},
-        {123456789, 3, 123457000},
-        {4, 1, 0},
-        {1e300, -5, 1e300},
-        {1234.5, -308, 1234.5},
-        {1234.5, -309, 1234.5},
-        {1234.5, INT_MIN, 1234.5},
-        {1e308, 309, 0},
-        {1.234e-199, -202, 1.234e-199},
-        {6e199, 200, 1e200},
-        {1e308, INT_MAX, 0},
-        {6e307, 308, 1e308},
-        {1.7e308, 308, 1.7e308}, // twice 1e308 is beyond the range
-        {4503599627370497.0, 0, 4503599627370497.0},
-        {inf, -5, inf},
-        {-inf, 400, -inf},
-    };
+    // Twice 1e308 is beyond the range.
+    const Nearest rows[] = {{1.234567, -5, 1.23457},
+                            {-1.234567, -5, -1.23457},
+                            {1.234567, 0, 1},
+                            {0.1 + 0.2, -5, 0.3},
+                            {14, 1, 10},
+                            {15, 1, 20},
+                            {-15, 1, -20},
+                            {-25, 1, -30},
+                            {2.5, 0, 3},
+                            {-2.5, 0, -3},
+                            {0.125, -2, 0.13},
+                            {0.49999999999999994, 0, 0},
+                            {123456789, 3, 123457000},
+                            {4, 1, 0},
+                            {1e300, -5, 1e300},
+                            {1234.5, -308, 1234.5},
+                            {1234.5, -309, 1234.5},
+                            {1234.5, INT_MIN, 1234.5},
+                            {1e308, 309, 0},
+                            {1.234e-199, -202, 1.234e-199},
+                            {6e199, 200, 1e200},
+                            {1e308, INT_MAX, 0},
+                            {6e307, 308, 1e308},
+                            {1.7e308, 308, 1.7e308},
+                            {4503599627370497.0, 0, 4503599627370497.0},
+                            {inf, -5, inf},
+                            {-inf, 400, -inf}};
     for (const auto& r : rows)
         EXPECT_EQ(GetNearestValue(r.value, r.power), r.result) << r.value << " to 10^" << r.power;
-    EXPECT_TRUE(std::isnan(GetNearestValue(nan, -5)));
-    EXPECT_TRUE(std::isnan(GetNearestValue(nan, 400)));
+    EXPECT_TRUE(std::isnan(GetNearestValue(NAN, -5)));
+    EXPECT_TRUE(std::isnan(GetNearestValue(NAN, 400)));
     EXPECT_FALSE(std::signbit(GetNearestValue(-0.3, 0))); // stored values do not show "-0"
 }
 

@@ -1,13 +1,6 @@
-#include <orvmathfunc/orvmathfunc.h>
-
-#include <gtest/gtest.h>
-
-#include <limits>
+#include "math_test.h"
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 struct R {
     double left, top, right, bottom;
@@ -48,8 +41,8 @@ TEST(Rectangles, Intersect) {
         {{0, 0, 10, 10}, {8, 2, 2, 8}, {}},     // sides exchanged: empty as it stands
         {{0, 10, 10, 0}, {2, 2, 8, 8}, {}},
         {{-inf, -inf, inf, inf}, {2, 2, 8, 8}, {2, 2, 8, 8}},
-        {{nan, 0, 10, 10}, {2, 2, 8, 8}, {}},
-        {{0, 0, 10, 10}, {2, 2, 8, nan}, {}},
+        {{NAN, 0, 10, 10}, {2, 2, 8, 8}, {}},
+        {{0, 0, 10, 10}, {2, 2, 8, NAN}, {}},
     };
     for (const auto& row : rows)
         check(douIntersectRect, row);
@@ -64,7 +57,7 @@ TEST(Rectangles, Unite) {
         {{0, 0, 0, 0}, {2, 3, 4, 5}, {2, 3, 4, 5}}, // an empty one does not pull in its place
         {{2, 3, 4, 5}, {0, 0, 0, 10}, {2, 3, 4, 5}},
         {{2, 3, 4, 5}, {9, 9, 8, 8}, {2, 3, 4, 5}},
-        {{2, 3, 4, 5}, {0, nan, 8, 8}, {2, 3, 4, 5}},
+        {{2, 3, 4, 5}, {0, NAN, 8, 8}, {2, 3, 4, 5}},
         {{0, 0, 0, 10}, {7, 7, 7, 7}, {}},
     };
     for (const auto& row : rows)
@@ -88,7 +81,7 @@ TEST(Rectangles, Subtract) {
         {a, {30, 0, 40, 20}, a}, // apart
         {a, {10, 0, 40, 20}, a}, // only touching
         {a, {8, 25, -1, -1}, a}, // nothing to take away
-        {a, {nan, 0, 10, 20}, a},
+        {a, {NAN, 0, 10, 20}, a},
         {{4, 4, 4, 9}, {0, 0, 1, 1}, {}}, // nothing to take from
     };
     for (const auto& row : rows)

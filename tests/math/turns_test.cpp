@@ -1,16 +1,8 @@
-#include <orvmathfunc/orvmathfunc.h>
-
-#include <gtest/gtest.h>
+#include "math_test.h"
 
 #include <climits>
-#include <cmath>
-#include <limits>
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double pi = 3.14159265358979323846;
 
 struct Direction {
     double x1, y1, x2, y2, angle;
@@ -35,7 +27,7 @@ TEST(Turns, DirectionOnTheScreen) {
         EXPECT_DOUBLE_EQ(GetAngleToXAxis(r.x1, r.y1, r.x2, r.y2), r.angle)
             << r.x1 << "," << r.y1 << " " << r.x2 << "," << r.y2;
     EXPECT_EQ(GetAngleToXAxis(0, -0.0, -1, 0), pi);
-    EXPECT_TRUE(std::isnan(GetAngleToXAxis(0, 0, nan, 1)));
+    EXPECT_TRUE(std::isnan(GetAngleToXAxis(0, 0, NAN, 1)));
 }
 
 struct OnArc {
@@ -73,10 +65,10 @@ TEST(Turns, ArcBounds) {
         {0.3, 0, 2, -0.2, true},
         {1, 0, 2, -1.5, false},
         {5, 0, 2, 4, true}, // widened beyond the circle
-        {nan, 0, 2, tol, false},
-        {1, nan, 2, tol, false},
-        {1, 0, nan, tol, false},
-        {1, 0, 2, nan, false},
+        {NAN, 0, 2, tol, false},
+        {1, NAN, 2, tol, false},
+        {1, 0, NAN, tol, false},
+        {1, 0, 2, NAN, false},
         {inf, 1, 1, tol, false},
         {3, 0, 1, inf, true},
     };
@@ -86,13 +78,15 @@ TEST(Turns, ArcBounds) {
 }
 
 TEST(Turns, RotatesCounterClockwiseOnTheScreen) {
-    double x = 12, y = 20;
-    PointRotateDou(x, y, 10, 20, pi / 2, &x, &y);
-    EXPECT_DOUBLE_EQ(x, 10);
-    EXPECT_DOUBLE_EQ(y, 18); // from the right of the centre to above it
-    PointRotateDou(x, y, 10, 20, -pi / 6, &x, &y);
-    EXPECT_DOUBLE_EQ(x, 11);
-    EXPECT_DOUBLE_EQ(y, 20 - std::sqrt(3.0));
+    for (const double at : {0.0, 1e9}) { // near and far from the origin
+        double x = at + 12, y = at + 20;
+        PointRotateDou(x, y, at + 10, at + 20, pi / 2, &x, &y);
+        EXPECT_DOUBLE_EQ(x, at + 10);
+        EXPECT_DOUBLE_EQ(y, at + 18); // from the right of the centre to above it
+        PointRotateDou(x, y, at + 10, at + 20, -pi / 6, &x, &y);
+        EXPECT_DOUBLE_EQ(x, at + 11);
+        EXPECT_DOUBLE_EQ(y, at + 20 - std::sqrt(3.0));
+    }
 }
 
 struct IntTurn {
@@ -111,7 +105,7 @@ TEST(Turns, RotatesWholeNumbersToTheNearest) {
         {INT_MAX, 0, INT_MIN, 0, pi, INT_MIN, 0}, // stops at the ends of the range
         {INT_MIN, INT_MIN, INT_MAX, INT_MAX, pi, INT_MAX, INT_MAX},
         {3, 4, 0, 0, inf, 0, 0},
-        {3, 4, 0, 0, nan, 0, 0},
+        {3, 4, 0, 0, NAN, 0, 0},
     };
     for (const auto& r : rows) {
         int x = 77, y = 77;
@@ -127,12 +121,13 @@ struct Mirrored {
 
 TEST(Turns, Mirrors) {
     const Mirrored rows[] = {
-        {3, 5, 0, 2, 1, 2, 3, -1}, // a level axis
-        {3, 5, 2, 0, 2, 9, 1, 5},  // an upright one
-        {3, 5, 0, 0, 1, 1, 5, 3},  // a slanting one
-        {7, 7, 0, 0, 1, 1, 7, 7},  // a point on the axis
-        {3, 5, 4, 4, 4, 4, 3, 5},  // no axis
-        {3, 5, 1, 1, 0, 0, 5, 3},  // the axis has no direction
+        {3, 5, 0, 2, 1, 2, 3, -1},                                        // a level axis
+        {3, 5, 2, 0, 2, 9, 1, 5},                                         // an upright one
+        {3, 5, 0, 0, 1, 1, 5, 3},                                         // a slanting one
+        {7, 7, 0, 0, 1, 1, 7, 7},                                         // a point on the axis
+        {3, 5, 4, 4, 4, 4, 3, 5},                                         // no axis
+        {3, 5, 1, 1, 0, 0, 5, 3},                                         // the axis has no direction
+        {1e9 + 3, 1e9 + 5, 1e9, 1e9, 1e9 + 1, 1e9 + 1, 1e9 + 5, 1e9 + 3}, // far from the origin
     };
     for (const auto& r : rows) {
         SCOPED_TRACE(testing::Message()
@@ -149,16 +144,17 @@ TEST(Turns, Mirrors) {
 }
 
 TEST(Turns, MirroredWholeNumbersAreRoundedAndBounded) {
+    const struct {
+        int x, y, ax, ay, rx, ry;
+    } rows[] = {{1, 0, 2, 1, 1, 1},
+                {1, 0, 1, 3, -1, 1},
+                {-1, 1, 3, 1, 0, -1}}; // (0.6, 0.8), (-0.8, 0.6), (-0.2, -1.4)
     int x = 77, y = 77;
-    PointMirrorInt(1, 0, 0, 0, 2, 1, &x, &y); // (0.6, 0.8)
-    EXPECT_EQ(x, 1);
-    EXPECT_EQ(y, 1);
-    PointMirrorInt(1, 0, 0, 0, 1, 3, &x, &y); // (-0.8, 0.6)
-    EXPECT_EQ(x, -1);
-    EXPECT_EQ(y, 1);
-    PointMirrorInt(-1, 1, 0, 0, 3, 1, &x, &y); // (-0.2, -1.4)
-    EXPECT_EQ(x, 0);
-    EXPECT_EQ(y, -1);
+    for (const auto& r : rows) {
+        PointMirrorInt(r.x, r.y, 0, 0, r.ax, r.ay, &x, &y);
+        EXPECT_EQ(x, r.rx);
+        EXPECT_EQ(y, r.ry);
+    }
     PointMirrorInt(INT_MIN, 5, INT_MAX, 0, INT_MAX, 1, &x, nullptr);
     EXPECT_EQ(x, INT_MAX);
 }

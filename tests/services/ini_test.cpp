@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 
 using namespace std::string_view_literals;
 

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "afx/afx_test.h"
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 #include "version_block.h"
 
 using orv::test::versionBlock;
@@ -101,7 +101,7 @@ TEST_F(Version, ModulesThatAreNone) {
     EXPECT_EQ(1, other.m_bFileTimeRead);
     EXPECT_TRUE(other.m_Info.strFilePath == text);
     EXPECT_TRUE(other.m_Info.strFileVersion.IsEmpty());
-    EXPECT_EQ(0, COrvVersion(folder_.path("")).m_bFileTimeRead); // a folder
+    EXPECT_EQ(0, COrvVersion(folder_.path()).m_bFileTimeRead); // a folder
     EXPECT_EQ(0, COrvVersion(CString('x', 40000)).m_bVersionRead);
 }
 

@@ -1,7 +1,0 @@
-#include <gtest/gtest.h>
-
-extern "C" int callAllFromC(void);
-
-TEST(FromC, EveryFunctionLinksAndAnswers) {
-    EXPECT_EQ(callAllFromC(), 22);
-}
