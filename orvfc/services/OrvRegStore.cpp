@@ -55,7 +55,6 @@ void COrvRegStore::Close() {
 }
 
 // --- keys
-// ----------------------------------------------------------------------------------------------------------
 
 BOOL COrvRegStore::RecordKey(LONG lResult) {
     m_Info = {lResult, 0, 0};
@@ -113,7 +112,6 @@ BOOL COrvRegStore::DeleteKey(const char* lpszPath, int bLocalMachine) {
 }
 
 // --- writing
-// -------------------------------------------------------------------------------------------------------
 
 BOOL COrvRegStore::MayWrite(const char* lpszName) const {
     return m_bReadOnly == 0 && IsOpen(lpszName);
@@ -212,7 +210,6 @@ BOOL COrvRegStore::Write(const char* lpszName, POINT*& pPoint) {
 }
 
 // --- reading
-// -------------------------------------------------------------------------------------------------------
 
 // Up to nRoom bytes of the value, whatever its type; m_Info tells what there is, zeros for nothing.
 BOOL COrvRegStore::Query(const char* lpszName, void* pData, DWORD nRoom) {
