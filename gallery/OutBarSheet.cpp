@@ -97,6 +97,11 @@ const struct {
          bar.InsertItem(1, -1, "按钮", 1);
          bar.StartGroupEdit(2);
      }},
+    {"停用",
+     [](CGfxOutBarCtrl& bar) {
+         bar.m_nSelItem = 1;
+         bar.EnableWindow(FALSE);
+     }},
     {"空间很小", [](CGfxOutBarCtrl& bar) { bar.MoveWindow(0, 0, 110, 150); }},
 };
 

@@ -5,6 +5,7 @@
 #include "OutBarFolders.h"
 
 #include <algorithm>
+#include <iterator>
 
 IMPLEMENT_DYNCREATE(CGfxOutBarCtrl, CWnd)
 
@@ -14,6 +15,7 @@ ON_WM_PAINT()
 ON_WM_ERASEBKGND()
 ON_WM_SIZE()
 ON_WM_DESTROY()
+ON_WM_ENABLE()
 ON_WM_PARENTNOTIFY()
 ON_WM_CTLCOLOR()
 ON_WM_SYSCOLORCHANGE()
@@ -42,6 +44,16 @@ HCURSOR loadCursor(UINT nID) {
     return ::LoadCursor(AfxFindResourceHandle(name, RT_GROUP_CURSOR), name);
 }
 
+const struct {
+    COLORREF CGfxOutBarCtrl::*field;
+    int index; // of the system's colours
+} systemColors[] = {
+    {&CGfxOutBarCtrl::m_crBackground, COLOR_BACKGROUND}, {&CGfxOutBarCtrl::m_crBackground2, COLOR_BACKGROUND},
+    {&CGfxOutBarCtrl::m_crWindow, COLOR_WINDOW},         {&CGfxOutBarCtrl::m_crWindow2, COLOR_WINDOW},
+    {&CGfxOutBarCtrl::m_cr3dFace, COLOR_3DFACE},         {&CGfxOutBarCtrl::m_cr3dLight, COLOR_3DLIGHT},
+    {&CGfxOutBarCtrl::m_crHilight, COLOR_3DHILIGHT},     {&CGfxOutBarCtrl::m_crShadow, COLOR_3DSHADOW},
+    {&CGfxOutBarCtrl::m_crDkShadow, COLOR_3DDKSHADOW}};
+
 } // namespace
 
 void OUTBAR_INFO::Dump(CDumpContext& dc) const {
@@ -50,13 +62,12 @@ void OUTBAR_INFO::Dump(CDumpContext& dc) const {
 }
 
 CGfxOutBarCtrl::CGfxOutBarCtrl()
-    : m_crBackground(::GetSysColor(COLOR_BACKGROUND)), m_crBackground2(m_crBackground),
-      m_crWindow(::GetSysColor(COLOR_WINDOW)), m_crWindow2(m_crWindow),
-      m_cr3dFace(::GetSysColor(COLOR_3DFACE)), m_cr3dLight(::GetSysColor(COLOR_3DLIGHT)),
-      m_crHilight(::GetSysColor(COLOR_3DHILIGHT)), m_crShadow(::GetSysColor(COLOR_3DSHADOW)),
-      m_crDkShadow(::GetSysColor(COLOR_3DDKSHADOW)), m_rcUpArrow(0, 0, 0, 0), m_rcDownArrow(0, 0, 0, 0),
-      m_hHandCursor(loadCursor(handCursor)), m_hDragCursor(loadCursor(dragCursor)),
-      m_hNoDragCursor(loadCursor(noDragCursor)), m_pFolders(new orv::OutBarFolders) {}
+    : m_rcUpArrow(0, 0, 0, 0), m_rcDownArrow(0, 0, 0, 0), m_hHandCursor(loadCursor(handCursor)),
+      m_hDragCursor(loadCursor(dragCursor)), m_hNoDragCursor(loadCursor(noDragCursor)),
+      m_pFolders(new orv::OutBarFolders) {
+    static_assert(sizeof m_crTaken == std::size(systemColors) * sizeof(COLORREF));
+    TakeSystemColors(true);
+}
 
 CGfxOutBarCtrl::~CGfxOutBarCtrl() {
     DestroyWindow();
@@ -111,13 +122,47 @@ void CGfxOutBarCtrl::OnSize(UINT nType, int cx, int cy) {
 
 void CGfxOutBarCtrl::OnDestroy() {
     m_hEdit = NULL; // goes down with this window, and its text with it
-    if (::GetCapture() == m_hWnd)
-        ::ReleaseCapture();
+    LetGo();
+    // Folders' windows go down too: their handles may be others' when this object has a window again.
+    for (int i = 0; i < GetFolderCount(); ++i)
+        if (ChildOf(i))
+            m_pFolders->folder(i)->child = NULL;
+    m_bAnimating = false;
+    SetDragMark(-1);
+    ClearHover();
     CWnd::OnDestroy();
+}
+
+// Whatever the mouse holds, an item or an arrow.
+void CGfxOutBarCtrl::LetGo() const {
+    if ((m_bTracking || m_nArrowHeld != 0) && ::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+}
+
+void CGfxOutBarCtrl::OnEnable(BOOL bEnable) {
+    CWnd::OnEnable(bEnable);
+    if (!bEnable) {
+        EndRename(true);
+        LetGo();
+        ClearHover();
+    }
+    Invalidate(FALSE);
+}
+
+// All of them, or those that are still as they were taken: the others are the host's.
+void CGfxOutBarCtrl::TakeSystemColors(bool bAll) {
+    COLORREF* pTaken = m_crTaken;
+    for (const auto& row : systemColors) {
+        const COLORREF color = ::GetSysColor(row.index);
+        if (bAll || this->*row.field == *pTaken)
+            this->*row.field = color;
+        *pTaken++ = color;
+    }
 }
 
 void CGfxOutBarCtrl::OnSysColorChange() {
     CWnd::OnSysColorChange();
+    TakeSystemColors(false);
     Invalidate(FALSE);
 }
 

@@ -13,6 +13,7 @@ struct OutBarFolder;
 struct OutBarFolders;
 struct OutBarItem;
 class OutBarLayout;
+enum class OutBarHit;
 } // namespace orv
 
 // Behaviour of the bar. The 0x004 to 0x080 bits say what its user may do; the members below work without
@@ -49,12 +50,13 @@ struct ORVFC_API OUTBAR_INFO {
 // Mouse: a press on an arrow scrolls by one item, and again as long as it is held; a notch of the wheel
 // scrolls by one item. A dragged item shows a mark where it would be dropped. Near the upper and lower edge
 // the items scroll; a header under the mouse for half a second opens its folder; a drop on a header appends
-// to its folder. Esc, the right button and removing or inserting rows meanwhile end the drag without a drop.
-// A drop sends no message.
+// to its folder. Esc, the right button, removing or inserting rows, renaming and disabling meanwhile end the
+// drag without a drop. A drop sends no message. A disabled bar takes neither presses nor hovers.
 //
 // Keyboard (the bar is a tab stop): up and down walk headers and items as they stand, Home, End and the page
-// keys go further, Enter opens a folder or clicks an item, F2 renames, Delete removes, Insert adds an item to
-// the open folder, behind the current one, Ctrl+Insert a folder; their names are then typed.
+// keys go further, Enter opens a folder (open already, its child window gets the focus) or clicks an item, F2
+// renames, Delete removes, Insert adds an item to the open folder, behind the current one, Ctrl+Insert a
+// folder; their names are then typed.
 //
 // Context menu (right button, menu key): the notified window, or else the parent, gets WM_CONTEXTMENU with
 // this window and a screen position which HitTestEx recognises; an item under it has been selected before,
@@ -72,17 +74,21 @@ public:
     CGfxOutBarCtrl(const CGfxOutBarCtrl&) = delete;
     CGfxOutBarCtrl& operator=(const CGfxOutBarCtrl&) = delete;
 
-    // --- appearance: may be changed at any time, Invalidate shows it; after sizes call LayoutChanged
+    // --- appearance: may be changed at any time, Invalidate shows it; after sizes call LayoutChanged.
+    // Colours that were left alone follow the system's when these change; header texts, and the text in the
+    // rename field, always have the system's. A disabled bar's texts are grey or half in m_crBackground, and
+    // so are its icons.
     COLORREF m_crBackground;  // item area, at its top
     COLORREF m_crBackground2; // item area, at its bottom: shaded when it is another colour
-    COLORREF m_crWindow;      // label texts of items
+    COLORREF m_crWindow;      // label texts of items, the drop mark
     COLORREF m_crWindow2;     // paper of the rename field
     COLORREF m_cr3dFace;      // header face
     COLORREF m_cr3dLight;     // header edge, inner light
     COLORREF m_crHilight;     // header and item highlight edge
     COLORREF m_crShadow;      // header and item shadow edge
     COLORREF m_crDkShadow;    // outer shadow edge
-    // Pixels.
+    // Pixels. They do not grow with the system's font: labels are measured, headers and margins are the
+    // host's.
     int m_nFolderHeight = 22;
     int m_xSmallIconLabelOffset = 4;
     int m_yLargeIconLabelOffset = 3;
@@ -92,7 +98,7 @@ public:
     int m_yTopMargin = 5;
 
     // --- state: to be read
-    bool m_bUpArrow = false;
+    bool m_bUpArrow = false; // arrows are not shown where there is no room for both
     bool m_bDownArrow = false;
     bool m_bUpPressed = false;
     bool m_bDownPressed = false;
@@ -133,8 +139,9 @@ public:
 
     // --- folders. The first one that is added opens.
     int AddFolder(const char* name, DWORD_PTR data = 0);
-    // child is made a child of this window if it is none; it stays the host's, is shown while its folder is
-    // open and may be destroyed, or taken to another parent, at any time.
+    // child is made a child of this window (WS_CHILD, no WS_POPUP) if it is none; it stays the host's object,
+    // is shown while its folder is open and may be destroyed, or taken to another parent, at any time. It
+    // goes down with this window. NULL, or a window that holds this one: the folder stays empty.
     int AddFolderBar(const char* name, CWnd* child, DWORD_PTR data = 0);
     int AddFolder(const OUTBAR_INFO& info);
     // When the open one goes, the one behind it opens, or else the one before. A child window is hidden.
@@ -142,7 +149,7 @@ public:
     void RemoveAllFolder();
     int GetFolderCount() const;
     int GetSelFolder() const { return m_nSelFolder; }
-    // Shows it from its first item on.
+    // Shows it from its first item on. True, and nothing changes, when it is open.
     bool SetSelFolder(int folder);
     bool SetFolderText(int folder, const char* text);
     // The first folder of that name, -1 without one.
@@ -202,8 +209,8 @@ public:
     // After the public sizes changed: works out scrolling and arrows again, and repaints.
     void LayoutChanged();
 
-    // --- renaming in place. Whatever changes the layout ends it, taking the text. An empty text is not
-    // taken.
+    // --- renaming in place. Whatever changes texts or the layout ends it before, taking the text. An empty
+    // text is not taken. False while the bar is disabled.
     bool StartGroupEdit(int folder);
     bool StartItemEdit(int item);
 
@@ -235,6 +242,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnDestroy();
+    afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnParentNotify(UINT message, LPARAM lParam);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnSysColorChange();
@@ -269,8 +277,10 @@ private:
     void AdoptChild(int nFolder) const;
     HWND ChildOf(int nFolder) const;
     void BeforeChange(bool bRows);
+    void LetGo() const;
+    void TakeSystemColors(bool bAll);
     orv::OutBarLayout LayoutOf(int nFolder) const;
-    bool HasItem(int nFolder, int nItem) const;
+    orv::OutBarHit Hit(const CPoint& point, int& index) const;
     CSize LabelSize(const orv::OutBarItem& item, int nWidth) const;
     CSize IconSize(const orv::OutBarFolder& folder, const orv::OutBarItem& item) const;
     void InvalidateItem(int nItem);
@@ -291,6 +301,7 @@ private:
     HWND NotifiedWindow() const;
 
     void TrackItem(int nItem, const CPoint& ptPress);
+    bool IsOver(const Drag& drag) const;
     bool TrackMessage(const MSG& msg, Drag& drag);
     void TrackMove(const CPoint& point, Drag& drag);
     void TrackTimer(Drag& drag);
@@ -299,6 +310,7 @@ private:
 
     Row CurrentRow() const;
     void SetCurrentRow(const Row& row);
+    void MarkCurrentRow(bool bMark);
     void ShowItem(int nItem);
     bool Walk(UINT nChar);
     void OpenCurrentRow();
@@ -309,6 +321,8 @@ private:
 
     bool StartEdit(const CRect& rect, const CString& text, DWORD dwStyle);
     void EndRename(bool bTake);
+
+    COLORREF m_crTaken[9]; // the system's, when they were last taken over
 
     orv::OutBarFolders* m_pFolders;
     int m_nItemPressed = -1;  // drawn pushed in

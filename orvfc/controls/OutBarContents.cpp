@@ -33,7 +33,7 @@ OutBarItem* CGfxOutBarCtrl::ItemAt(int nItem) const {
 void CGfxOutBarCtrl::BeforeChange(bool bRows) {
     EndRename(true);
     if (bRows && m_bTracking)
-        ::ReleaseCapture();
+        LetGo();
 }
 
 // --- folders
@@ -135,6 +135,7 @@ bool CGfxOutBarCtrl::SetSelFolder(int folder) {
 }
 
 bool CGfxOutBarCtrl::SetFolderText(int folder, const char* text) {
+    BeforeChange(false);
     OutBarFolder* row = m_pFolders->folder(folder);
     if (!row)
         return false;
@@ -161,16 +162,20 @@ HWND CGfxOutBarCtrl::ChildOf(int nFolder) const {
     const OutBarFolder* row = m_pFolders->folder(nFolder);
     if (!row || !row->child || !::IsWindow(row->child))
         return NULL;
-    return !m_hWnd || ::GetParent(row->child) == m_hWnd ? row->child : NULL;
+    return !m_hWnd || ::GetAncestor(row->child, GA_PARENT) == m_hWnd ? row->child : NULL;
 }
 
 void CGfxOutBarCtrl::AdoptChild(int nFolder) const {
     const OutBarFolder* row = m_pFolders->folder(nFolder);
-    if (!m_hWnd || !row || !::IsWindow(row->child))
+    // This window and those around it cannot be its children.
+    if (!m_hWnd || !row || !::IsWindow(row->child) || row->child == m_hWnd || ::IsChild(row->child, m_hWnd))
         return;
     ::ShowWindow(row->child, SW_HIDE);
-    if (::GetParent(row->child) != m_hWnd)
-        ::SetParent(row->child, m_hWnd);
+    if (::GetAncestor(row->child, GA_PARENT) == m_hWnd)
+        return;
+    // A top-level window stays one for the system until its style says otherwise.
+    CWnd::FromHandle(row->child)->ModifyStyle(WS_POPUP, WS_CHILD);
+    ::SetParent(row->child, m_hWnd);
 }
 
 CWnd* CGfxOutBarCtrl::GetFolderChild(int folder) const {
@@ -315,6 +320,7 @@ CString CGfxOutBarCtrl::GetItemText(int item) const {
 }
 
 bool CGfxOutBarCtrl::SetItemText(int item, const char* text) {
+    BeforeChange(false);
     OutBarItem* row = ItemAt(item);
     if (!row)
         return false;

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+using orv::OutBarHit;
+
 namespace {
 
 constexpr UINT_PTR dragTimer = 3;
@@ -56,15 +58,21 @@ void CGfxOutBarCtrl::TrackItem(int nItem, const CPoint& ptPress) {
         ::ReleaseCapture();
     SetDragMark(-1);
     HighlightItem(-1, false);
+    HighlightFolder(-1);
     if (!drag.released)
         return;
     if (drag.moving) {
         Drop(drag);
         return;
     }
-    int nIndex;
-    if (HitTestEx(drag.last, nIndex) == static_cast<int>(orv::OutBarHit::item) && nIndex == nItem)
+    if (IsOver(drag))
         ClickItem(nItem);
+}
+
+// Whether the mouse is on the item that was pressed. Another folder may have opened since.
+bool CGfxOutBarCtrl::IsOver(const Drag& drag) const {
+    int nIndex;
+    return m_nSelFolder == drag.folder && Hit(drag.last, nIndex) == OutBarHit::item && nIndex == drag.item;
 }
 
 // True: done with. Keys go nowhere meanwhile; Esc and the right button end it all.
@@ -78,7 +86,10 @@ bool CGfxOutBarCtrl::TrackMessage(const MSG& msg, Drag& drag) {
         return false;
     switch (msg.message) {
     case WM_MOUSEMOVE:
-        TrackMove(CPoint(msg.lParam), drag);
+        if (msg.wParam & MK_LBUTTON)
+            TrackMove(CPoint(msg.lParam), drag);
+        else
+            m_bTracking = false; // the button was let go where nobody told
         return true;
     case WM_LBUTTONUP:
         TrackMove(CPoint(msg.lParam), drag);
@@ -100,20 +111,19 @@ bool CGfxOutBarCtrl::TrackMessage(const MSG& msg, Drag& drag) {
 
 void CGfxOutBarCtrl::TrackMove(const CPoint& point, Drag& drag) {
     drag.last = point;
-    int nIndex;
-    const int nHit = HitTestEx(point, nIndex);
     if (!drag.moving) {
         drag.moving = (m_dwFlags & OUTBAR_DRAG_ITEMS) &&
                       (std::abs(point.x - drag.press.x) > ::GetSystemMetrics(SM_CXDRAG) ||
                        std::abs(point.y - drag.press.y) > ::GetSystemMetrics(SM_CYDRAG));
         if (!drag.moving) {
-            const bool bOver = nHit == static_cast<int>(orv::OutBarHit::item) && nIndex == drag.item;
+            const bool bOver = IsOver(drag);
             HighlightItem(bOver ? drag.item : -1, bOver);
             return;
         }
         HighlightItem(-1, false);
     }
-    const int nHeader = nHit == static_cast<int>(orv::OutBarHit::folder) ? nIndex : -1;
+    int nIndex;
+    const int nHeader = Hit(point, nIndex) == OutBarHit::folder ? nIndex : -1;
     if (nHeader != drag.header) {
         drag.header = nHeader;
         drag.headerTicks = 0;
@@ -161,6 +171,9 @@ void CGfxOutBarCtrl::Drop(const Drag& drag) {
     orv::OutBarFolder* to = m_pFolders->folder(drag.dropFolder);
     if (!from || !to || !m_pFolders->item(drag.folder, drag.item))
         return;
+    // What is seen stays too.
+    if (from == OpenFolder() && drag.item < m_nFirstItem)
+        --m_nFirstItem;
     const orv::OutBarItem* selected = ItemAt(m_nSelItem);
     const orv::OutBarItem* current = ItemAt(m_nCurrentItem);
     auto item = std::move(from->items[static_cast<size_t>(drag.item)]);

@@ -46,6 +46,13 @@ CRect clientRect(HWND hWnd) {
     return rect;
 }
 
+bool partRect(const OutBarLayout& layout, int item, RECT (OutBarLayout::*part)(const orv::OutBarRow&) const,
+              CRect& rect) {
+    const bool bThere = item >= 0 && item < layout.items();
+    rect = bThere ? (layout.*part)(layout.row(item)) : RECT{};
+    return bThere;
+}
+
 } // namespace
 
 CSize CGfxOutBarCtrl::LabelSize(const OutBarItem& item, int nWidth) const {
@@ -89,10 +96,6 @@ OutBarLayout CGfxOutBarCtrl::LayoutOf(int nFolder) const {
     });
 }
 
-bool CGfxOutBarCtrl::HasItem(int nFolder, int nItem) const {
-    return m_pFolders->item(nFolder, nItem) != NULL;
-}
-
 void CGfxOutBarCtrl::GetInsideRect(CRect& rect) const {
     rect = LayoutOf(m_nSelFolder).insideRect();
 }
@@ -102,30 +105,15 @@ bool CGfxOutBarCtrl::GetFolderRect(int folder, CRect& rect) const {
 }
 
 bool CGfxOutBarCtrl::GetItemRect(int folder, int item, CRect& rect) const {
-    rect.SetRectEmpty();
-    if (!HasItem(folder, item))
-        return false;
-    const OutBarLayout layout = LayoutOf(folder);
-    rect = layout.itemRect(layout.row(item));
-    return true;
+    return partRect(LayoutOf(folder), item, &OutBarLayout::itemRect, rect);
 }
 
 bool CGfxOutBarCtrl::GetIconRect(int folder, int item, CRect& rect) const {
-    rect.SetRectEmpty();
-    if (!HasItem(folder, item))
-        return false;
-    const OutBarLayout layout = LayoutOf(folder);
-    rect = layout.iconRect(layout.row(item));
-    return true;
+    return partRect(LayoutOf(folder), item, &OutBarLayout::iconRect, rect);
 }
 
 bool CGfxOutBarCtrl::GetLabelRect(int folder, int item, CRect& rect) const {
-    rect.SetRectEmpty();
-    if (!HasItem(folder, item))
-        return false;
-    const OutBarLayout layout = LayoutOf(folder);
-    rect = layout.labelRect(layout.row(item));
-    return true;
+    return partRect(LayoutOf(folder), item, &OutBarLayout::labelRect, rect);
 }
 
 CSize CGfxOutBarCtrl::GetItemSize(int folder, int item, int part) const {
@@ -162,13 +150,17 @@ int CGfxOutBarCtrl::GetCountPerPage() const {
     return LayoutOf(m_nSelFolder).wholeItems();
 }
 
-int CGfxOutBarCtrl::HitTestEx(const CPoint& point, int& index) const {
+orv::OutBarHit CGfxOutBarCtrl::Hit(const CPoint& point, int& index) const {
     index = -1;
     if (m_bUpArrow && m_rcUpArrow.PtInRect(point))
-        return static_cast<int>(orv::OutBarHit::upArrow);
+        return orv::OutBarHit::upArrow;
     if (m_bDownArrow && m_rcDownArrow.PtInRect(point))
-        return static_cast<int>(orv::OutBarHit::downArrow);
-    return static_cast<int>(LayoutOf(m_nSelFolder).hit(point, index));
+        return orv::OutBarHit::downArrow;
+    return LayoutOf(m_nSelFolder).hit(point, index);
+}
+
+int CGfxOutBarCtrl::HitTestEx(const CPoint& point, int& index) const {
+    return static_cast<int>(Hit(point, index));
 }
 
 void CGfxOutBarCtrl::LayoutChanged() {

@@ -15,6 +15,8 @@ UINT CGfxOutBarCtrl::OnGetDlgCode() {
 
 void CGfxOutBarCtrl::OnSetFocus(CWnd* pOldWnd) {
     CWnd::OnSetFocus(pOldWnd);
+    if (::GetKeyState(VK_TAB) < 0)
+        m_bKeyboard = true;
     Invalidate(FALSE);
 }
 
@@ -27,6 +29,14 @@ CGfxOutBarCtrl::Row CGfxOutBarCtrl::CurrentRow() const {
     if (IsValidItem(m_nCurrentItem))
         return {m_nSelFolder, m_nCurrentItem};
     return {m_pFolders->folder(m_nCurrentFolder) ? m_nCurrentFolder : m_nSelFolder, -1};
+}
+
+// Marked while the keyboard is what was used last.
+void CGfxOutBarCtrl::MarkCurrentRow(bool bMark) {
+    if (m_bKeyboard == bMark)
+        return;
+    m_bKeyboard = bMark;
+    Invalidate(FALSE);
 }
 
 void CGfxOutBarCtrl::SetCurrentRow(const Row& row) {
@@ -93,10 +103,7 @@ void CGfxOutBarCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
                 {VK_F2, &CGfxOutBarCtrl::RenameCurrentRow},
                 {VK_DELETE, &CGfxOutBarCtrl::RemoveCurrentRow},
                 {VK_INSERT, &CGfxOutBarCtrl::AddEntry}};
-    if (!m_bKeyboard) {
-        m_bKeyboard = true;
-        Invalidate(FALSE);
-    }
+    MarkCurrentRow(true);
     if (Walk(nChar))
         return;
     for (const auto& key : keys) {
@@ -112,8 +119,10 @@ void CGfxOutBarCtrl::OpenCurrentRow() {
     const Row row = CurrentRow();
     if (row.item >= 0)
         ClickItem(row.item);
-    else
+    else if (row.folder != m_nSelFolder)
         SetSelFolder(row.folder);
+    else if (const HWND hChild = ChildOf(row.folder))
+        ::SetFocus(hChild);
 }
 
 void CGfxOutBarCtrl::RenameCurrentRow() {

@@ -153,10 +153,6 @@ int OutBarLayout::wholeItems() const {
     return whole;
 }
 
-bool OutBarLayout::itemsBelow() const {
-    return scene_.items > 0 && scene_.firstItem + wholeItems() < scene_.items;
-}
-
 int OutBarLayout::firstToShow(int item) const {
     if (item < 0 || item >= scene_.items)
         return 0;

@@ -58,6 +58,7 @@ public:
     // The open folder's contents; may be empty or inverted when the headers leave no room.
     RECT insideRect() const;
 
+    int items() const { return scene_.items; }
     SIZE itemSize(const OutBarParts& parts) const;
     OutBarRow row(int item) const;
     bool nextRow(OutBarRow& row) const; // false behind the last item
@@ -70,7 +71,8 @@ public:
     int lastVisible() const;
     // Items shown whole, from the first one on.
     int wholeItems() const;
-    bool itemsBelow() const;
+    // There is more to scroll to.
+    bool itemsBelow() const { return scene_.firstItem < furthestFirst(); }
     // The first item that lets `item` be seen whole at the bottom, and the furthest one to scroll to.
     int firstToShow(int item) const;
     int furthestFirst() const { return firstToShow(scene_.items - 1); }

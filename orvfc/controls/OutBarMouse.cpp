@@ -28,6 +28,10 @@ bool CGfxOutBarCtrl::IsAlive(HWND hWnd) const {
 
 void CGfxOutBarCtrl::OnMouseMove(UINT nFlags, CPoint point) {
     CWnd::OnMouseMove(nFlags, point);
+    if (!IsWindowEnabled())
+        return;
+    if (!(nFlags & MK_LBUTTON))
+        LetGo(); // the button was let go where nobody told
     if (m_nArrowHeld == 0) {
         Hover(point);
         return;
@@ -45,9 +49,9 @@ void CGfxOutBarCtrl::OnMouseMove(UINT nFlags, CPoint point) {
 void CGfxOutBarCtrl::Hover(const CPoint& point) {
     SetTimer(hoverTimer, hoverPause, NULL);
     int nIndex;
-    const int nHit = HitTestEx(point, nIndex);
-    HighlightFolder(nHit == static_cast<int>(OutBarHit::folder) ? nIndex : -1);
-    HighlightItem(nHit == static_cast<int>(OutBarHit::item) ? nIndex : -1, false);
+    const OutBarHit hit = Hit(point, nIndex);
+    HighlightFolder(hit == OutBarHit::folder ? nIndex : -1);
+    HighlightItem(hit == OutBarHit::item ? nIndex : -1, false);
 }
 
 void CGfxOutBarCtrl::ClearHover() {
@@ -72,6 +76,8 @@ void CGfxOutBarCtrl::OnTimer(UINT_PTR nIDEvent) {
     GetClientRect(rect);
     if (!bOver || !rect.PtInRect(point))
         ClearHover();
+    else if (!m_bTracking && m_nArrowHeld == 0)
+        Hover(point); // what lies under the resting mouse may have moved
 }
 
 BOOL CGfxOutBarCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
@@ -80,8 +86,8 @@ BOOL CGfxOutBarCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
     if (nHitTest == HTCLIENT && pWnd->GetSafeHwnd() == m_hWnd && ::GetCursorPos(&point)) {
         ScreenToClient(&point);
         int nIndex;
-        const int nHit = HitTestEx(point, nIndex);
-        if (nHit == static_cast<int>(OutBarHit::folder) || nHit == static_cast<int>(OutBarHit::item)) {
+        const OutBarHit hit = Hit(point, nIndex);
+        if (hit == OutBarHit::folder || hit == OutBarHit::item) {
             ::SetCursor(m_hHandCursor);
             return TRUE;
         }
@@ -92,20 +98,20 @@ BOOL CGfxOutBarCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
 // --- presses
 
 void CGfxOutBarCtrl::OnLButtonDown(UINT, CPoint point) {
-    if (m_bTracking)
+    if (m_bTracking || !IsWindowEnabled())
         return;
     const HWND hWnd = m_hWnd;
     EndRename(true);
-    m_bKeyboard = false;
+    MarkCurrentRow(false);
     SetFocus();
     if (!IsAlive(hWnd) || PressArrow(point))
         return;
     int nIndex;
-    const int nHit = HitTestEx(point, nIndex);
-    if (nHit == static_cast<int>(OutBarHit::folder)) {
+    const OutBarHit hit = Hit(point, nIndex);
+    if (hit == OutBarHit::folder) {
         SetCurrentRow({nIndex, -1});
         SetSelFolder(nIndex);
-    } else if (nHit == static_cast<int>(OutBarHit::item)) {
+    } else if (hit == OutBarHit::item) {
         TrackItem(nIndex, point);
     }
 }
@@ -146,16 +152,16 @@ HWND CGfxOutBarCtrl::NotifiedWindow() const {
         return NULL;
     // Set before it had a window, it is the host's own object.
     const HWND hWnd = m_hNotifyWnd ? m_hNotifyWnd : m_pNotifyWnd->m_hWnd;
-    return ::IsWindow(hWnd) && hWnd != m_hWnd ? hWnd : NULL;
+    return ::IsWindow(hWnd) ? hWnd : NULL;
 }
 
 // --- scrolling
 
 bool CGfxOutBarCtrl::PressArrow(const CPoint& point) {
     int nIndex;
-    const int nHit = HitTestEx(point, nIndex);
-    const bool bUp = nHit == static_cast<int>(OutBarHit::upArrow);
-    if (!bUp && nHit != static_cast<int>(OutBarHit::downArrow))
+    const OutBarHit hit = Hit(point, nIndex);
+    const bool bUp = hit == OutBarHit::upArrow;
+    if (!bUp && hit != OutBarHit::downArrow)
         return false;
     SetCapture();
     m_nArrowHeld = bUp ? -1 : 1;
@@ -210,12 +216,12 @@ void CGfxOutBarCtrl::OnContextMenu(CWnd* pWnd, CPoint pos) {
     CPoint point(pos);
     ScreenToClient(&point);
     int nIndex;
-    const int nHit = HitTestEx(point, nIndex);
-    if (nHit == static_cast<int>(OutBarHit::item))
+    const OutBarHit hit = Hit(point, nIndex);
+    if (hit == OutBarHit::item)
         SelectItem(nIndex);
-    else if (nHit == static_cast<int>(OutBarHit::folder))
+    else if (hit == OutBarHit::folder)
         SetCurrentRow({nIndex, -1});
     const HWND hNotify = NotifiedWindow();
-    ::SendMessage(hNotify ? hNotify : ::GetParent(m_hWnd), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_hWnd),
-                  MAKELPARAM(pos.x, pos.y));
+    ::SendMessage(hNotify && hNotify != m_hWnd ? hNotify : ::GetParent(m_hWnd), WM_CONTEXTMENU,
+                  reinterpret_cast<WPARAM>(m_hWnd), MAKELPARAM(pos.x, pos.y));
 }

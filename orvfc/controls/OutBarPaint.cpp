@@ -96,7 +96,7 @@ void CGfxOutBarCtrl::PaintHeader(CDC& dc, int nFolder) const {
         dc.Draw3dRect(rcEdge, m_crHilight, m_crShadow);
     else
         dc.Draw3dRect(rcEdge, m_cr3dLight, m_cr3dFace);
-    dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
+    dc.SetTextColor(::GetSysColor(IsWindowEnabled() ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
     rcEdge.DeflateRect(2, 0);
     const CString& name = m_pFolders->folder(nFolder)->name;
     dc.DrawText(name, rcEdge, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
@@ -133,15 +133,18 @@ void CGfxOutBarCtrl::PaintItems(CDC& dc) const {
 void CGfxOutBarCtrl::PaintItem(CDC& dc, int nItem, const CRect& rcIcon, const CRect& rcLabel) const {
     const orv::OutBarItem& item = *ItemAt(nItem);
     const bool bSmall = IsSmallIconView();
+    const bool bFaint = !IsWindowEnabled();
     CRect rcFrame(rcLabel);
     if (rcIcon.Width() > 0) {
         // The rectangle of a large icon is moved up, its picture is not: the first one is seen whole.
         const CPoint place(rcIcon.left, bSmall ? rcIcon.top : rcIcon.top + frameGap);
-        OpenFolder()->images[bSmall]->Draw(&dc, item.image, place, ILD_TRANSPARENT);
+        ::ImageList_DrawEx(OpenFolder()->images[bSmall]->GetSafeHandle(), item.image, dc.m_hDC, place.x,
+                           place.y, 0, 0, CLR_NONE, m_crBackground,
+                           ILD_TRANSPARENT | (bFaint ? ILD_BLEND50 : 0));
         rcFrame = CRect(place, IconSize(*OpenFolder(), item));
     }
     PaintFrame(dc, nItem, rcFrame);
-    dc.SetTextColor(m_crWindow);
+    dc.SetTextColor(bFaint ? mixed(m_crWindow, m_crBackground, 1, 2) : m_crWindow);
     CRect rcText(rcLabel);
     const UINT nFormat = bSmall ? DT_LEFT | DT_SINGLELINE | DT_END_ELLIPSIS : DT_CENTER | DT_WORDBREAK;
     dc.DrawText(item.text, rcText, nFormat | DT_NOPREFIX);
@@ -171,12 +174,13 @@ void CGfxOutBarCtrl::PaintFrame(CDC& dc, int nItem, const CRect& rcAround) const
 }
 
 void CGfxOutBarCtrl::PaintArrows(CDC& dc) const {
+    const UINT nFaint = IsWindowEnabled() ? 0 : DFCS_INACTIVE;
     CRect rect(m_rcUpArrow);
     if (m_bUpArrow)
-        dc.DrawFrameControl(rect, DFC_SCROLL, DFCS_SCROLLUP | (m_bUpPressed ? DFCS_PUSHED : 0));
+        dc.DrawFrameControl(rect, DFC_SCROLL, DFCS_SCROLLUP | nFaint | (m_bUpPressed ? DFCS_PUSHED : 0));
     rect = m_rcDownArrow;
     if (m_bDownArrow)
-        dc.DrawFrameControl(rect, DFC_SCROLL, DFCS_SCROLLDOWN | (m_bDownPressed ? DFCS_PUSHED : 0));
+        dc.DrawFrameControl(rect, DFC_SCROLL, DFCS_SCROLLDOWN | nFaint | (m_bDownPressed ? DFCS_PUSHED : 0));
 }
 
 // A line with a head at each end. At the first place the heads point down only, behind the last item up only.

@@ -13,7 +13,7 @@ constexpr UINT editId = 1;
 } // namespace
 
 bool CGfxOutBarCtrl::StartGroupEdit(int folder) {
-    EndRename(true);
+    BeforeChange(true);
     CRect rect;
     if (!GetFolderRect(folder, rect))
         return false;
@@ -24,7 +24,7 @@ bool CGfxOutBarCtrl::StartGroupEdit(int folder) {
 }
 
 bool CGfxOutBarCtrl::StartItemEdit(int item) {
-    EndRename(true);
+    BeforeChange(true);
     if (!IsValidItem(item))
         return false;
     ShowItem(item);
@@ -51,7 +51,7 @@ bool CGfxOutBarCtrl::StartItemEdit(int item) {
 }
 
 bool CGfxOutBarCtrl::StartEdit(const CRect& rect, const CString& text, DWORD dwStyle) {
-    if (!m_hWnd)
+    if (!m_hWnd || !IsWindowEnabled())
         return false;
     UpdateWindow();
     auto* edit = new CGfxGroupEdit;

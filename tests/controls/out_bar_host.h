@@ -16,10 +16,12 @@ class CCountedBar : public CGfxOutBarCtrl {
 public:
     int ends = 0;
     int repeats = 0; // of a held arrow's timer
+    int clicks = 0;  // told to itself
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         repeats += message == WM_TIMER && wParam == 2;
+        clicks += message == WM_GFX_OUTBAR_LBUTTON_DOWN;
         ends += message == WM_GFX_END_LABEL_EDIT;
         return CGfxOutBarCtrl::WindowProc(message, wParam, lParam);
     }

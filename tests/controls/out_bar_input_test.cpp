@@ -43,6 +43,12 @@ TEST_F(OutBarInput, HoverFollowsTheMouseAndLeaves) {
               move(CPoint(900, 900)))
         .run([&] { return bar.m_nLastFolderHighlighted == -1; });
     EXPECT_FALSE(bar.KillTimer(1)) << "the timer rests with the mouse away";
+    // The header goes from under a resting mouse.
+    Steps()
+        .then(move(host.header(1)))
+        .when([&] { return bar.m_nLastFolderHighlighted == 1; }, [&] { bar.SetSelFolder(1); })
+        .run([&] { return bar.m_nLastFolderHighlighted == -1; });
+    bar.SetSelFolder(0);
     // Covered by another window the bar is left too.
     Steps().then(move(host.item(0))).run([&] { return bar.m_nLastItemHighlighted == 0; });
     CWnd cover;
@@ -73,6 +79,18 @@ TEST_F(OutBarInput, OneMessageForEachClick) {
     EXPECT_EQ(2, host.clicks);
     EXPECT_EQ(0, bar.m_nSelItem);
     EXPECT_STREQ("0 1 2", host.texts());
+    // Let go on another folder's item in the same place.
+    CRect icon;
+    bar.GetIconRect(0, 1, icon);
+    const CPoint place = host.toScreen(CPoint(icon.CenterPoint().x, icon.bottom - 3));
+    int index = -1;
+    Steps().then(press(place)).when(held, [&] { bar.SetSelFolder(1); }).then(release(place)).run(idle);
+    EXPECT_EQ(1, host.hit(place, index));
+    EXPECT_EQ(1, index);
+    EXPECT_EQ(2, host.clicks);
+    // A bar that is its own listener.
+    bar.SetNotifyWnd(&bar);
+    Steps().then(clickOn(host.item(0))).run([&] { return bar.clicks == 1; });
 }
 
 TEST_F(OutBarInput, HeadersOpen) {
@@ -206,6 +224,18 @@ TEST_F(OutBarInput, DragsIntoAnotherFolderWithScrolling) {
     bar.SetSelFolder(0);
     EXPECT_EQ(20, bar.GetItemCount());
     EXPECT_STREQ("1", bar.GetItemText(19));
+    // Scrolled away within its folder an item leaves a gap above: what is seen stays.
+    bar.GetInsideRect(inside);
+    const CPoint edge = host.toScreen(CPoint(inside.CenterPoint().x, inside.bottom - 3)),
+                 place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
+    Steps()
+        .then(press(host.item(0)))
+        .when(held, move(edge))
+        .when([&] { return bar.m_nFirstItem == 3; }, move(place))
+        .when([&] { return bar.m_nLastDragItemDraw == 4; }, release(place))
+        .run(idle);
+    EXPECT_EQ(2, bar.m_nFirstItem);
+    EXPECT_STREQ("0", bar.GetItemText(3));
 }
 
 TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
@@ -222,6 +252,8 @@ TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
                 {"out of the bar", outside, release(outside)},
                 {"a folder without items", host.header(2), release(host.header(2))},
                 {"the capture is taken away", below, [] { ::ReleaseCapture(); }},
+                {"the button is let go unseen", below, [&] { bar.PostMessage(WM_MOUSEMOVE, 0, 0); }},
+                {"disabled", below, [&] { bar.EnableWindow(FALSE), bar.EnableWindow(TRUE); }},
                 {"a row comes", below, [&] { bar.RemoveItem(bar.InsertItem(0, -1, "neu")); }},
                 {"another folder goes", below, [&] { bar.RemoveFolder(bar.AddFolder("neu")); }}};
     for (const auto& row : rows) {
@@ -245,6 +277,15 @@ TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
         .run(idle);
     EXPECT_STREQ("x y", host.texts());
     bar.AssertValid();
+    // The window: nothing of the drag is left when there is one again.
+    Steps()
+        .then(press(host.item(0)))
+        .when(held, move(below))
+        .when([&] { return bar.m_nLastDragItemDraw == 2; }, [&] { bar.DestroyWindow(); })
+        .then(release(below))
+        .run(idle);
+    EXPECT_EQ(-1, bar.m_nLastDragItemDraw);
+    EXPECT_STREQ("x y", host.texts());
 }
 
 // Handlers of the host that end the window, the object or the program in the midst of a press.
@@ -374,6 +415,28 @@ TEST_F(OutBarInput, MenusAreReported) {
         EXPECT_EQ(0, host.hit(host.menuAt, index));
         EXPECT_EQ(1, index);
     }
+    bar.SetNotifyWnd(&bar);
+    const int before = host.menus;
+    rightClickAt(at.x, at.y);
+    ASSERT_TRUE(waitUntil([&] { return host.menus == before + 1; })) << "never to itself";
+}
+
+TEST_F(OutBarInput, ADisabledBarDoesNothing) {
+    host.fill(20);
+    bar.ScrollItems(1);
+    Steps().then(move(host.item(2))).run([&] { return bar.m_nLastItemHighlighted == 2; });
+    bar.EnableWindow(FALSE);
+    EXPECT_EQ(-1, bar.m_nLastItemHighlighted);
+    CPoint point = host.item(2);
+    bar.ScreenToClient(&point);
+    CPoint arrow = bar.m_rcDownArrow.CenterPoint();
+    for (UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN})
+        for (CPoint at : {point, arrow})
+            bar.SendMessage(message, 0, MAKELPARAM(at.x, at.y));
+    EXPECT_EQ(-1, bar.m_nLastItemHighlighted);
+    EXPECT_EQ(1, bar.m_nFirstItem);
+    EXPECT_TRUE(idle());
+    EXPECT_FALSE(bar.StartItemEdit(2) || bar.StartGroupEdit(0));
 }
 
 } // namespace

@@ -127,6 +127,13 @@ TEST(OutBarLayout, WhatIsInView) {
     exact.client.bottom = 284;
     EXPECT_EQ(7, layout(exact).wholeItems());
     EXPECT_EQ(2, layout(exact).furthestFirst());
+    // Items higher than the view: there is nothing below the last one.
+    for (int firstItem : {8, 9}) {
+        OutBarScene what = scene(false, 10);
+        what.firstItem = firstItem;
+        const OutBarLayout bar(what, [](int) { return OutBarParts{{0, 0}, {40, 2000}}; });
+        EXPECT_EQ(firstItem == 8, bar.itemsBelow());
+    }
 }
 
 TEST(OutBarLayout, HitsInTheirOrder) {

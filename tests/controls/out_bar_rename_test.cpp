@@ -47,6 +47,9 @@ TEST_F(OutBarRename, EndsOnceHoweverItEnds) {
         {"another view", true, [&](CGfxGroupEdit*) { bar.SetSmallIconView(!bar.IsSmallIconView()); }},
         {"another folder opens", true, [&](CGfxGroupEdit*) { bar.SetSelFolder(1 - bar.GetSelFolder()); }},
         {"a row comes before it", true, [&](CGfxGroupEdit*) { bar.RemoveItem(bar.InsertItem(0, 0, "neu")); }},
+        {"disabled", true, [&](CGfxGroupEdit*) { bar.EnableWindow(FALSE), bar.EnableWindow(TRUE); }},
+        {"the host sets the texts", false,
+         [&](CGfxGroupEdit*) { bar.SetItemText(1, "old"), bar.SetFolderText(1, "old"); }},
         {"another one starts", true, [&](CGfxGroupEdit*) { bar.StartItemEdit(0); }},
     };
     for (const auto& row : rows) {
