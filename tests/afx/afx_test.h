@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <sstream>
+#include <stdio.h>
 #include <string>
 
 #if defined(_WIN32)
@@ -23,13 +23,12 @@ inline std::string bytesOf(const CString& str) {
     return std::string(str.GetString(), (size_t)str.GetLength());
 }
 
-// "01 FF 41" as bytes.
+// "01 FF41" as bytes.
 template <class BYTES = std::string>
 BYTES fromHex(const std::string& hex) {
     BYTES bytes;
-    std::istringstream stream(hex);
-    for (unsigned n; stream >> std::hex >> n;)
-        bytes.push_back(static_cast<typename BYTES::value_type>(n));
+    for (size_t at = 0; (at = hex.find_first_not_of(' ', at)) != std::string::npos; at += 2)
+        bytes.push_back(static_cast<typename BYTES::value_type>(std::stoi(hex.substr(at, 2), nullptr, 16)));
     return bytes;
 }
 
@@ -143,6 +142,17 @@ int loaded(const std::string& bytes, const std::function<void(CArchive&)>& load,
     file.SeekToBegin();
     CArchive ar(&file, CArchive::load, nBufSize);
     return causeOf<CArchiveException>([&] { load(ar); });
+}
+
+// What the object writes of itself, and the object read from that.
+template <class OBJECT>
+std::string serialized(OBJECT& object) {
+    return stored([&](CArchive& ar) { object.Serialize(ar); });
+}
+
+template <class OBJECT>
+int deserialized(OBJECT& object, const std::string& bytes) {
+    return loaded(bytes, [&](CArchive& ar) { object.Serialize(ar); });
 }
 
 } // namespace orv::test

@@ -3,16 +3,6 @@
 namespace orv::test {
 namespace {
 
-Messages messages;
-
-class KeepingApp : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override {
-        messages.push_back(lpszPrompt);
-        return IDOK;
-    }
-} keepingApp;
-
 const COLORREF palette[] = {RGB(0, 0, 0),       RGB(255, 0, 0),   RGB(0, 255, 0),   RGB(0, 0, 255),
                             RGB(255, 255, 0),   RGB(0, 255, 255), RGB(255, 0, 255), RGB(128, 64, 0),
                             RGB(255, 255, 255), RGB(128, 128, 0), RGB(0, 128, 128), RGB(64, 0, 64),
@@ -47,77 +37,16 @@ BYTE fieldValue(DWORD value, DWORD mask) {
 
 } // namespace
 
-Messages takeMessages() {
-    return std::exchange(messages, {});
-}
-
-Folder::Folder() {
-    char temp[MAX_PATH], name[MAX_PATH];
-    ::GetTempPathA(MAX_PATH, temp);
-    ::GetTempFileNameA(temp, "dib", 0, name);
-    ::DeleteFileA(name);
-    ::CreateDirectoryA(name, NULL);
-    path = name;
-}
-
-Folder::~Folder() {
-    for (const std::string& name : names()) {
-        ::SetFileAttributesA(file(name.c_str()).c_str(), FILE_ATTRIBUTE_NORMAL);
-        ::DeleteFileA(file(name.c_str()).c_str());
-    }
-    ::RemoveDirectoryA(path.c_str());
-}
-
-std::vector<std::string> Folder::names() const {
-    std::vector<std::string> found;
-    WIN32_FIND_DATAA data;
-    const HANDLE search = ::FindFirstFileA(file("*").c_str(), &data);
-    if (search == INVALID_HANDLE_VALUE)
-        return found;
-    do {
-        if (data.cFileName[0] != '.')
-            found.push_back(data.cFileName);
-    } while (::FindNextFileA(search, &data));
-    ::FindClose(search);
-    return found;
-}
-
-void writeFile(const std::string& path, const Bytes& bytes) {
-    CFile file(path.c_str(), CFile::modeCreate | CFile::modeWrite);
+void writeFile(const char* path, const Bytes& bytes) {
+    CFile file(path, CFile::modeCreate | CFile::modeWrite);
     file.Write(bytes.data(), UINT(bytes.size()));
 }
 
-Bytes readFile(const std::string& path) {
-    CFile file(path.c_str(), CFile::modeRead | CFile::shareDenyNone);
+Bytes readFile(const char* path) {
+    CFile file(path, CFile::modeRead | CFile::shareDenyNone);
     Bytes bytes(size_t(file.GetLength()));
     file.Read(bytes.data(), UINT(bytes.size()));
     return bytes;
-}
-
-Paper::Paper(int w, int h) : width(w), height(h) {
-    const BITMAPINFO info = {{40, w, -h, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
-    void* bits = NULL;
-    dc.CreateCompatibleDC(NULL);
-    bitmap_ = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, NULL, 0);
-    bits_ = static_cast<DWORD*>(bits);
-    old_ = ::SelectObject(dc, bitmap_);
-    clear();
-}
-
-Paper::~Paper() {
-    ::SelectObject(dc, old_);
-    ::DeleteObject(bitmap_);
-}
-
-COLORREF Paper::at(int x, int y) {
-    ::GdiFlush();
-    const DWORD value = bits_[y * width + x];
-    return RGB(BYTE(value >> 16), BYTE(value >> 8), BYTE(value));
-}
-
-void Paper::clear() {
-    ::GdiFlush();
-    memset(bits_, 0xFF, size_t(4) * width * height);
 }
 
 const std::vector<Depth>& depths() {

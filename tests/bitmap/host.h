@@ -1,53 +1,20 @@
 #pragma once
 
-// What the tests of COrvDib share: the host that keeps messages, a folder for files, a sheet to draw on.
-
-#include <afxwin.h>
+// What the tests of COrvDib share: files, pictures and their pixels.
 
 #include <orvfc/bitmap/cdib.h>
 
 #include <gtest/gtest.h>
 
 #include "samples.h"
-
-#include <string>
-#include <vector>
+#include "support/message_boxes.h"
+#include "support/paper.h"
+#include "support/scratch_folder.h"
 
 namespace orv::test {
 
-// The messages since the last call.
-std::vector<std::string> takeMessages();
-using Messages = std::vector<std::string>;
-
-// A folder in the temporary one, removed with what it holds.
-class Folder {
-public:
-    Folder();
-    ~Folder();
-    std::string file(const char* name) const { return path + "\\" + name; }
-    std::vector<std::string> names() const;
-    std::string path;
-};
-
-void writeFile(const std::string& path, const Bytes& bytes);
-Bytes readFile(const std::string& path);
-
-// A white sheet of 32 bits in memory.
-class Paper {
-public:
-    Paper(int width, int height);
-    ~Paper();
-    COLORREF at(int x, int y);
-    void clear();
-    CDC dc;
-    const int width, height;
-
-private:
-    DWORD* bits_;
-    HBITMAP bitmap_;
-    HGDIOBJ old_;
-};
-inline constexpr COLORREF kWhite = RGB(255, 255, 255);
+void writeFile(const char* path, const Bytes& bytes);
+Bytes readFile(const char* path);
 
 // The depths with what goes with them.
 struct Depth {

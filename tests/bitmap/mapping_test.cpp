@@ -30,33 +30,33 @@ const AttachRow attachRows[] = {
 };
 
 TEST(BitmapMapping, AttachesWhatIsWhole) {
-    const Folder folder;
-    const std::string path = folder.file("a.bmp");
+    const ScratchFolder folder;
+    const CString path = folder.path("a.bmp");
     for (const AttachRow& row : attachRows) {
         SCOPED_TRACE(row.name);
         writeFile(path, row.bytes);
         COrvDib dib;
-        EXPECT_EQ(row.message == NULL, dib.AttachMapFile(path.c_str(), 0) != FALSE);
+        EXPECT_EQ(row.message == NULL, dib.AttachMapFile(path, 0) != FALSE);
         EXPECT_EQ(row.message == NULL ? Messages() : Messages({row.message}), takeMessages());
         EXPECT_EQ(row.message == NULL ? 7u : 0u, dib.GetPixelIndex(0, 0));
         EXPECT_EQ(row.message == NULL, dib.m_hMapFile != NULL);
         dib.Empty();
         // Nothing holds the file any longer.
-        EXPECT_TRUE(::DeleteFileA(path.c_str()));
+        EXPECT_TRUE(::DeleteFileA(path));
     }
     COrvDib dib;
-    EXPECT_FALSE(dib.AttachMapFile(path.c_str(), 0));
+    EXPECT_FALSE(dib.AttachMapFile(path, 0));
     EXPECT_EQ(Messages(), takeMessages());
     EXPECT_TRUE(folder.names().empty());
 }
 
 TEST(BitmapMapping, ChangesTheFile) {
-    const Folder folder;
-    const std::string path = folder.file("a.bmp");
+    const ScratchFolder folder;
+    const CString path = folder.path("a.bmp");
     const Bytes before = makeFile({.gap = 3});
     writeFile(path, before);
     COrvDib dib;
-    ASSERT_TRUE(dib.AttachMapFile(path.c_str(), 0));
+    ASSERT_TRUE(dib.AttachMapFile(path, 0));
     EXPECT_EQ(0, dib.m_nHeaderOwner);
     ASSERT_TRUE(dib.SetPiexelIndex(1, 0, 200));
     dib.Empty();
@@ -67,29 +67,30 @@ TEST(BitmapMapping, ChangesTheFile) {
 }
 
 TEST(BitmapMapping, AReadOnlyFileIsLeftAlone) {
-    const Folder folder;
-    const std::string path = folder.file("a.bmp");
+    const ScratchFolder folder;
+    const CString path = folder.path("a.bmp");
     writeFile(path, makeFile({}));
-    ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    ::SetFileAttributesA(path, FILE_ATTRIBUTE_READONLY);
     COrvDib dib, other;
-    EXPECT_FALSE(dib.AttachMapFile(path.c_str(), 1));
-    CFile file(path.c_str(), CFile::modeRead | CFile::shareDenyWrite);
+    EXPECT_FALSE(dib.AttachMapFile(path, 1));
+    CFile file(path, CFile::modeRead | CFile::shareDenyWrite);
     EXPECT_TRUE(other.Read(&file));
-    EXPECT_FALSE(other.CopyToMapFile(path.c_str()));
+    EXPECT_FALSE(other.CopyToMapFile(path));
     file.Close();
     EXPECT_EQ(7u, other.GetPixelIndex(0, 0));
     EXPECT_EQ(makeFile({}), readFile(path));
     EXPECT_EQ(Messages(), takeMessages());
+    ::SetFileAttributesA(path, FILE_ATTRIBUTE_NORMAL);
 }
 
 // What a second program, run now, can do with the file.
-int secondProgram(const std::string& path) {
-    std::string line = "bitmap_second.exe \"" + path + "\"";
+int secondProgram(const CString& path) {
+    CString line = "bitmap_second.exe \"" + path + "\"";
     STARTUPINFOA startup = {};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process;
     DWORD code = 99;
-    if (::CreateProcessA(NULL, line.data(), NULL, NULL, TRUE, 0, NULL, NULL, &startup, &process)) {
+    if (::CreateProcessA(NULL, line.GetBuffer(), NULL, NULL, TRUE, 0, NULL, NULL, &startup, &process)) {
         ::WaitForSingleObject(process.hProcess, 60000);
         ::GetExitCodeProcess(process.hProcess, &code);
         ::CloseHandle(process.hThread);
@@ -99,13 +100,13 @@ int secondProgram(const std::string& path) {
 }
 
 TEST(BitmapMapping, TwoProgramsOnOneFile) {
-    const Folder folder;
-    const std::string path = folder.file("a.bmp");
+    const ScratchFolder folder;
+    const CString path = folder.path("a.bmp");
     writeFile(path, makeFile({}));
     COrvDib dib;
-    ASSERT_TRUE(dib.AttachMapFile(path.c_str(), 0));
+    ASSERT_TRUE(dib.AttachMapFile(path, 0));
     EXPECT_EQ(secondNothing, secondProgram(path));
-    ASSERT_TRUE(dib.AttachMapFile(path.c_str(), 1));
+    ASSERT_TRUE(dib.AttachMapFile(path, 1));
     ASSERT_TRUE(dib.SetPiexelIndex(0, 0, secondPixel));
     EXPECT_EQ(secondReads, secondProgram(path));
     EXPECT_EQ(secondPixel, dib.GetPixelIndex(0, 0));
@@ -114,15 +115,15 @@ TEST(BitmapMapping, TwoProgramsOnOneFile) {
 }
 
 TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
-    const Folder folder;
-    const std::string path = folder.file("copy.bmp");
+    const ScratchFolder folder;
+    const CString path = folder.path("copy.bmp");
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
         COrvDib dib, again;
         ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
         dib.m_dRadian = 0.25;
         const DWORD length = dib.GetFileLength();
-        ASSERT_TRUE(dib.CopyToMapFile(path.c_str()));
+        ASSERT_TRUE(dib.CopyToMapFile(path));
         EXPECT_EQ(0.25, dib.GetRadian());
         EXPECT_TRUE(dib.m_pMapView);
         for (COrvDib* one : {&dib, &again}) {
@@ -137,12 +138,12 @@ TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
         }
     }
     COrvDib empty, dib;
-    EXPECT_FALSE(empty.CopyToMapFile(folder.file("empty.bmp").c_str()));
+    EXPECT_FALSE(empty.CopyToMapFile(folder.path("empty.bmp")));
     ASSERT_TRUE(readBytes(dib, makeFile({})));
-    EXPECT_FALSE(dib.CopyToMapFile(folder.file("no folder\\x.bmp").c_str()));
+    EXPECT_FALSE(dib.CopyToMapFile(folder.path("no folder\\x.bmp")));
     EXPECT_EQ(7u, dib.GetPixelIndex(0, 0));
-    ASSERT_TRUE(dib.CopyToMapFile(path.c_str()));
-    EXPECT_FALSE(dib.CopyToMapFile(path.c_str())); // its own file
+    ASSERT_TRUE(dib.CopyToMapFile(path));
+    EXPECT_FALSE(dib.CopyToMapFile(path)); // its own file
     EXPECT_EQ(7u, dib.GetPixelIndex(0, 0));
     EXPECT_EQ(1u, folder.names().size());
 }

@@ -59,8 +59,8 @@ TEST(BitmapMemory, AGlobalBlockMustHoldWhatItsHeaderPromises) {
 TEST(BitmapCopy, OfEveryOwner) {
     const Depth& depth = depths()[2];
     Bytes file = pictureFile(depth, 5, 4);
-    const Folder folder;
-    writeFile(folder.file("a.bmp"), file);
+    const ScratchFolder folder;
+    writeFile(folder.path("a.bmp"), file);
     const HGLOBAL block = globalCopy(file);
     COrvDib read, attached, global, section, mapped;
     ASSERT_TRUE(readBytes(read, file));
@@ -68,7 +68,7 @@ TEST(BitmapCopy, OfEveryOwner) {
     ASSERT_TRUE(global.AttachMemory(::GlobalLock(block), TRUE, block));
     CMemFile memory(file.data(), UINT(file.size()));
     ASSERT_TRUE(section.ReadSection(&memory, NULL));
-    ASSERT_TRUE(mapped.AttachMapFile(folder.file("a.bmp").c_str(), 0));
+    ASSERT_TRUE(mapped.AttachMapFile(folder.path("a.bmp"), 0));
     for (COrvDib* original : {&read, &attached, &global, &section, &mapped}) {
         original->m_dRadian = 0.5;
         COrvDib copy(*original), assigned, set;
@@ -140,8 +140,8 @@ TEST(BitmapSection, RunLengthRowsComeOutPlain) {
 
 // Device bitmaps of every depth, as packed bitmaps and as files of them.
 TEST(BitmapPacked, KeepsEveryPixelAtEveryDepth) {
-    const Folder folder;
-    const std::string path = folder.file("packed.bmp");
+    const ScratchFolder folder;
+    const CString path = folder.path("packed.bmp");
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
         const Bytes file = pictureFile(depth, 7, 5);
@@ -153,13 +153,13 @@ TEST(BitmapPacked, KeepsEveryPixelAtEveryDepth) {
         const HGLOBAL block = DDBtoDIB(bitmap, depth.compression, NULL);
         bitmap.Detach();
         ASSERT_TRUE(block);
-        EXPECT_TRUE(WriteDib(path.c_str(), block));
+        EXPECT_TRUE(WriteDib(path, block));
         COrvDib packed, read;
         ASSERT_TRUE(packed.AttachMemory(::GlobalLock(block), TRUE, block));
         EXPECT_EQ(depth.bitCount, packed.m_pInfoHeader->biBitCount);
         EXPECT_EQ(depth.compression, packed.m_pInfoHeader->biCompression);
         expectPicture(packed, depth, 7, 5);
-        CFile reader(path.c_str(), CFile::modeRead | CFile::shareDenyWrite);
+        CFile reader(path, CFile::modeRead | CFile::shareDenyWrite);
         ASSERT_TRUE(read.Read(&reader));
         expectPicture(read, depth, 7, 5);
         EXPECT_EQ(reader.GetLength(), *reinterpret_cast<const DWORD*>(&readFile(path)[2]));
@@ -199,21 +199,21 @@ TEST(BitmapPacked, DeviceBitmapsAndRefusals) {
     EXPECT_EQ(NULL, DDBtoDIB(mono, 99, NULL));
     EXPECT_EQ(NULL, DDBtoDIB(none, BI_RGB, NULL));
     BYTE* address = reinterpret_cast<BYTE*>(dib.m_pInfoHeader);
-    const Folder folder;
-    EXPECT_TRUE(WriteDib(folder.file("by address.bmp").c_str(), address));
-    EXPECT_EQ(14 + 48 + 8u, readFile(folder.file("by address.bmp")).size());
-    EXPECT_FALSE(WriteDib(folder.file("no folder\\x.bmp").c_str(), address));
+    const ScratchFolder folder;
+    EXPECT_TRUE(WriteDib(folder.path("by address.bmp"), address));
+    EXPECT_EQ(14 + 48 + 8u, readFile(folder.path("by address.bmp")).size());
+    EXPECT_FALSE(WriteDib(folder.path("no folder\\x.bmp"), address));
     const HGLOBAL cut = globalCopy(makeFile({}), 1);
-    EXPECT_FALSE(WriteDib(folder.file("cut.bmp").c_str(), cut));
+    EXPECT_FALSE(WriteDib(folder.path("cut.bmp"), cut));
     ::GlobalUnlock(cut);
     ::GlobalFree(cut);
     EXPECT_EQ(1u, folder.names().size());
 }
 
 // One round of everything that holds a handle.
-void useHandles(const Folder& folder) {
+void useHandles(const ScratchFolder& folder) {
     const Bytes file = pictureFile(depths()[2], 7, 5);
-    writeFile(folder.file("m.bmp"), file);
+    writeFile(folder.path("m.bmp"), file);
     Paper paper(20, 20);
     COrvDib dib, copy;
     CMemFile memory(const_cast<BYTE*>(file.data()), UINT(file.size()));
@@ -226,8 +226,8 @@ void useHandles(const Folder& folder) {
     copy.Compress(&paper.dc, TRUE);
     ::DeleteObject(copy.CreateBitmap(&paper.dc));
     COrvDib mapped, plain;
-    mapped.AttachMapFile(folder.file("m.bmp").c_str(), 0);
-    mapped.CopyToMapFile(folder.file("n.bmp").c_str());
+    mapped.AttachMapFile(folder.path("m.bmp"), 0);
+    mapped.CopyToMapFile(folder.path("n.bmp"));
     readBytes(plain, pictureFile(depths()[5], 7, 5));
     plain.SetSystemPalette(&paper.dc);
     plain.SetSystemPalette(&paper.dc);
@@ -239,7 +239,7 @@ void useHandles(const Folder& folder) {
 }
 
 TEST(BitmapMemory, NoHandleIsLost) {
-    const Folder folder;
+    const ScratchFolder folder;
     useHandles(folder);
     DWORD handlesBefore = 0, handlesAfter = 0;
     const int before = liveGdiHandles();

@@ -126,13 +126,13 @@ TEST(Catalogue, Rows) {
     EXPECT_STREQ("", copy.strName);
     EXPECT_EQ(0, copy.dValue);
 
-    EXPECT_EQ("05 31 BA C1 C3 D7 00 00 00 00 00 00 F0 3F ", hexOf(store(row)));
+    EXPECT_EQ("05 31 BA C1 C3 D7 00 00 00 00 00 00 F0 3F", toHex(serialized(row)));
     LineTypeStruct type("点线", 2);
-    EXPECT_EQ("04 B5 E3 CF DF 02 00 00 00 ", hexOf(store(type)));
+    EXPECT_EQ("04 B5 E3 CF DF 02 00 00 00", toHex(serialized(type)));
     LineTypeStruct loaded("before", 1);
-    EXPECT_EQ(CArchiveException::endOfFile, load(loaded, store(type).substr(0, 8)));
+    EXPECT_EQ(CArchiveException::endOfFile, deserialized(loaded, serialized(type).substr(0, 8)));
     EXPECT_STREQ("before", loaded.strName);
-    EXPECT_EQ(0, load(loaded, store(type)));
+    EXPECT_EQ(0, deserialized(loaded, serialized(type)));
     EXPECT_TRUE(loaded == type);
 }
 

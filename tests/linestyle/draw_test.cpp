@@ -8,22 +8,21 @@
 #include <gtest/gtest.h>
 
 #include "sheet.h"
-#include "support/debug_events.h"
+#include "afx/afx_test.h"
 #include "support/gdi_count.h"
+#include "support/paper.h"
 
 #include <math.h>
 
-using orv::test::DebugEvents;
-using orv::test::Seen;
-using orv::test::Sheet;
+using namespace orv::test;
 
 namespace {
 
 // A device context that records what is drawn.
-class Paper {
+class Record {
 public:
-    Paper() { dc.Attach(sheet_.dc()); }
-    ~Paper() { dc.Detach(); }
+    Record() { dc.Attach(sheet_.dc()); }
+    ~Record() { dc.Detach(); }
     Seen take() { return sheet_.take(); }
 
     CDC dc;
@@ -41,42 +40,13 @@ void polylinePath(CDC& dc, std::initializer_list<POINT> points) {
     dc.EndPath();
 }
 
-// A white picture in memory.
-class Picture {
-public:
-    Picture(int width, int height) : width_(width) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        dc.CreateCompatibleDC(NULL);
-        bitmap_ = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits_, NULL, 0);
-        old_ = ::SelectObject(dc, bitmap_);
-        memset(bits_, 0xFF, size_t(4) * width * height);
-    }
-    ~Picture() {
-        ::SelectObject(dc, old_);
-        ::DeleteObject(bitmap_);
-    }
-    // One character per pixel of a row: '.' for white.
-    std::string row(int y) {
-        ::GdiFlush();
-        std::string text;
-        for (int x = 0; x < width_; ++x)
-            text += (static_cast<DWORD*>(bits_)[y * width_ + x] & 0xFFFFFF) == 0xFFFFFF ? '.' : '#';
-        return text;
-    }
-
-    CDC dc;
-
-private:
-    int width_;
-    void* bits_ = NULL;
-    HBITMAP bitmap_;
-    HGDIOBJ old_;
-};
+// One character per pixel of a row: '.' for white.
+std::string rowOf(const Paper& paper, int y) {
+    std::string text;
+    for (int x = 0; x < paper.width; ++x)
+        text += paper.at(x, y) == kWhite ? '.' : '#';
+    return text;
+}
 
 struct DrawRow {
     const char* name;
@@ -124,7 +94,7 @@ const DrawRow drawRows[] = {
 TEST(Draw, ByTypeWidthAndColour) {
     for (const DrawRow& row : drawRows) {
         SCOPED_TRACE(row.name);
-        Paper paper;
+        Record paper;
         polylinePath(paper.dc, {{0, 50}, {30, 50}, {30, 30}});
         COrvMainDrawManage manager("");
         EXPECT_EQ(row.main, manager.Draw(&paper.dc, row.type, row.width, row.color));
@@ -135,7 +105,7 @@ TEST(Draw, ByTypeWidthAndColour) {
         }
         EXPECT_EQ(row.seen, paper.take());
 
-        Paper other;
+        Record other;
         polylinePath(other.dc, {{0, 50}, {30, 50}, {30, 30}});
         COrvDrawManage set;
         set.InitToGerApp();
@@ -147,7 +117,7 @@ TEST(Draw, ByTypeWidthAndColour) {
 }
 
 TEST(Draw, SolidIsStrokedByTheSingleManager) {
-    Paper paper;
+    Record paper;
     polylinePath(paper.dc, {{0, 0}, {30, 0}});
     COrvDrawManage set;
     EXPECT_EQ(1, set.Draw(&paper.dc, 0, 4, 0x0000FF));
@@ -155,7 +125,7 @@ TEST(Draw, SolidIsStrokedByTheSingleManager) {
 }
 
 TEST(Draw, RailwayWithoutAManager) {
-    Paper paper;
+    Record paper;
     polylinePath(paper.dc, {{100, 100}, {130, 100}});
     EXPECT_EQ(0, DrawSpeciaPath(&paper.dc, 1, 10));
     EXPECT_EQ(1, DrawSpeciaPath(&paper.dc, 101, 10));
@@ -165,7 +135,7 @@ TEST(Draw, RailwayWithoutAManager) {
 }
 
 TEST(Draw, FiguresOfOnePathAreJoined) {
-    Paper paper;
+    Record paper;
     paper.dc.BeginPath();
     for (int y : {0, 40}) {
         paper.dc.MoveTo(0, y);
@@ -177,7 +147,7 @@ TEST(Draw, FiguresOfOnePathAreJoined) {
 }
 
 TEST(Draw, CurvesAreFlattenedFirst) {
-    Paper paper;
+    Record paper;
     paper.dc.BeginPath();
     paper.dc.Ellipse(0, 0, 400, 400);
     paper.dc.EndPath();
@@ -195,7 +165,7 @@ TEST(Draw, CurvesAreFlattenedFirst) {
 }
 
 TEST(Draw, WithoutAPath) {
-    Paper paper;
+    Record paper;
     COrvMainDrawManage manager("");
     EXPECT_EQ(1, manager.Draw(&paper.dc, 1, 1, 0));
     COrvDrawManage set;
@@ -208,7 +178,7 @@ TEST(Draw, WithoutAPath) {
 }
 
 TEST(Draw, ThePathIsCopiedAnew) {
-    Paper paper;
+    Record paper;
     COrvGPathData path;
     polylinePath(paper.dc, {{1, 2}, {3, 4}, {5, 6}});
     EXPECT_EQ(3, path.GetPathData(&paper.dc));
@@ -220,11 +190,11 @@ TEST(Draw, ThePathIsCopiedAnew) {
 }
 
 TEST(Draw, PixelsOfDashesAndGaps) {
-    Picture picture(50, 9);
+    Paper picture(50, 9);
     polylinePath(picture.dc, {{0, 4}, {48, 4}});
     COrvMainDrawManage manager("");
     manager.Draw(&picture.dc, 1, 1, 0);
-    EXPECT_EQ("##################.....##################.....##..", picture.row(4));
+    EXPECT_EQ("##################.....##################.....##..", rowOf(picture, 4));
     polylinePath(picture.dc, {{0, 4}, {48, 4}});
     manager.Draw(&picture.dc, 1, 3, 0);
     for (int y = 0; y < 9; ++y) {
@@ -232,12 +202,12 @@ TEST(Draw, PixelsOfDashesAndGaps) {
         const bool covered = y >= 3 && y <= 5;
         // Flat caps: the gaps keep their width.
         EXPECT_EQ(covered ? std::string(18, '#') + "....." : std::string(23, '.'),
-                  picture.row(y).substr(0, 23));
+                  rowOf(picture, y).substr(0, 23));
     }
 }
 
 TEST(Draw, LeavesTheDeviceContextAndTheSystemAsTheyWere) {
-    Picture picture(400, 400);
+    Paper picture(400, 400);
     CPen pen(PS_SOLID, 7, RGB(1, 2, 3));
     CBrush brush(RGB(4, 5, 6));
     CPen* oldPen = picture.dc.SelectObject(&pen);
@@ -256,10 +226,10 @@ TEST(Draw, LeavesTheDeviceContextAndTheSystemAsTheyWere) {
         EXPECT_EQ(brush.m_hObject, ::GetCurrentObject(picture.dc, OBJ_BRUSH));
     };
     drawAll();
-    const int handles = orv::test::liveGdiHandles();
+    const int handles = liveGdiHandles();
     for (int i = 0; i < 5; ++i)
         drawAll();
-    EXPECT_EQ(handles, orv::test::liveGdiHandles());
+    EXPECT_EQ(handles, liveGdiHandles());
     picture.dc.SelectObject(oldPen);
     picture.dc.SelectObject(oldBrush);
 }
@@ -304,20 +274,12 @@ TEST(Traces, OfTheCatalogueAndTheArray) {
 }
 
 TEST(Dump, TellsWhatAnObjectHolds) {
-    CMemFile file;
-    CDumpContext dump(&file);
     COrvDrawDashDash dash;
     dash.m_nLen1 = 4711;
-    dash.Dump(dump);
+    EXPECT_NE(std::string::npos, dumped(dash).find("4711"));
     COrvDrawManage set;
     set.InitToGerApp();
-    set.Dump(dump);
-    dump.Flush();
-    std::string text(static_cast<size_t>(file.GetLength()), ' ');
-    file.SeekToBegin();
-    file.Read(text.data(), UINT(text.size()));
-    EXPECT_NE(std::string::npos, text.find("4711"));
-    EXPECT_NE(std::string::npos, text.find("5 patterns"));
+    EXPECT_NE(std::string::npos, dumped(set).find("5 patterns"));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "stored.h"
+#include "support/message_boxes.h"
 
 #include <direct.h>
 
@@ -16,23 +17,13 @@ using namespace orv::test;
 
 namespace {
 
-class TalkingApp : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override {
-        said.push_back(lpszPrompt);
-        return IDOK;
-    }
-    // How many boxes came up since the last question. None is empty.
-    int boxes() {
-        for (const std::string& text : said)
-            EXPECT_FALSE(text.empty());
-        const int count = int(said.size());
-        said.clear();
-        return count;
-    }
-
-    std::vector<std::string> said;
-} talkingApp;
+// How many boxes came up since the last question. None is empty.
+size_t boxes() {
+    const Messages messages = takeMessages();
+    for (const std::string& text : messages)
+        EXPECT_FALSE(text.empty());
+    return messages.size();
+}
 
 // An empty current directory of its own, whose name ends in a byte that looks like a backslash.
 class LineTypeFiles : public testing::Test {
@@ -42,7 +33,7 @@ protected:
         _mkdir(kName);
         ASSERT_TRUE(::SetCurrentDirectoryA(kName));
         _mkdir("sub");
-        talkingApp.said.clear();
+        takeMessages();
     }
     void TearDown() override {
         for (const char* file : {"sub\\x.lin", "x.lin", "誠", "orvDrawType.lin"})
@@ -62,7 +53,7 @@ protected:
     }
     static std::string onePattern(int type) {
         COrvDrawBasicDash base;
-        return int32(4) + std::string("\x01N") + int32(1) + int32(type) + store(base);
+        return int32(4) + std::string("\x01N") + int32(1) + int32(type) + serialized(base);
     }
 
 private:
@@ -76,12 +67,12 @@ TEST_F(LineTypeFiles, SavingTakesTheNameAsItIsLoadingItsLastPartOnly) {
     EXPECT_EQ(1, set.SaveToFile("sub\\x.lin"));
     EXPECT_TRUE(IsFileExist("sub\\x.lin"));
     EXPECT_EQ(0, set.LoadFromFile("sub\\x.lin")) << "looked for in the current directory";
-    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(1u, boxes());
     EXPECT_TRUE(set.GetDashFromType(4)) << "as before";
 
     EXPECT_EQ(1, set.SaveToFile("x.lin"));
     EXPECT_EQ(1, set.LoadFromFile("C:\\nowhere\\x.lin"));
-    EXPECT_EQ(0, talkingApp.boxes());
+    EXPECT_EQ(0u, boxes());
     EXPECT_TRUE(set.GetDashFromType(101));
     EXPECT_EQ(NULL, set.GetDashFromType(4)) << "out of step behind the zig-zag";
 
@@ -95,7 +86,7 @@ TEST_F(LineTypeFiles, DefaultName) {
     EXPECT_TRUE(IsFileExist(defaultFile()));
     EXPECT_FALSE(IsFileExist("orvDrawType.lin"));
     EXPECT_EQ(0, set.LoadFromFile("")) << "the name alone";
-    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(1u, boxes());
     write("orvDrawType.lin", onePattern(5));
     for (const char* name : {"", "C:\\nowhere\\", "誠\\"}) {
         set.Init();
@@ -103,7 +94,7 @@ TEST_F(LineTypeFiles, DefaultName) {
         EXPECT_EQ(4, set.m_nVersion);
     }
     EXPECT_EQ(0, set.SaveToFile("nowhere\\")) << "only an empty name is replaced";
-    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(1u, boxes());
 }
 
 TEST_F(LineTypeFiles, DamagedFilesLeaveTheSetAsItWas) {
@@ -114,21 +105,21 @@ TEST_F(LineTypeFiles, DamagedFilesLeaveTheSetAsItWas) {
          {size_t(0), size_t(3), size_t(5), size_t(9), size_t(13), size_t(20), good.size() - 1}) {
         write("x.lin", good.substr(0, size));
         EXPECT_EQ(0, set.LoadFromFile("x.lin")) << size;
-        EXPECT_EQ(1, talkingApp.boxes());
+        EXPECT_EQ(1u, boxes());
         EXPECT_EQ(0, set.m_nVersion);
         EXPECT_TRUE(set.GetDashFromType(4));
     }
     EXPECT_EQ(0, set.SaveToFile("nowhere\\x.lin"));
-    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(1u, boxes());
 }
 
 TEST_F(LineTypeFiles, TheMainManagerAddsSets) {
     COrvMainDrawManage manager("");
     EXPECT_EQ(NULL, manager.GetLineType(5));
     EXPECT_EQ(NULL, manager.GetLineType(5, "x.lin"));
-    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(1u, boxes());
     EXPECT_EQ(0, manager.Load("x.lin"));
-    EXPECT_EQ(1, talkingApp.boxes());
+    EXPECT_EQ(1u, boxes());
     write("x.lin", onePattern(5));
     EXPECT_TRUE(manager.GetLineType(1, "nowhere")) << "known: no file is looked for";
     COrvDrawBasicDash* dash = manager.GetLineType(5, "x.lin");
@@ -141,7 +132,7 @@ TEST_F(LineTypeFiles, TheMainManagerAddsSets) {
     EXPECT_EQ(NULL, manager.GetLineType(1));
     manager.Init();
     EXPECT_TRUE(manager.GetLineType(1));
-    EXPECT_EQ(0, talkingApp.boxes());
+    EXPECT_EQ(0u, boxes());
 }
 
 TEST_F(LineTypeFiles, TheMainManagerSavesAllItsSets) {
@@ -161,7 +152,7 @@ TEST_F(LineTypeFiles, TheMainManagerSavesAllItsSets) {
     other.Init();
     other.SetPathName("nowhere\\x.lin");
     EXPECT_EQ(0, other.Save());
-    EXPECT_EQ(2, talkingApp.boxes()) << "every set is tried";
+    EXPECT_EQ(2u, boxes()) << "every set is tried";
 }
 
 } // namespace

@@ -31,16 +31,16 @@ Dash baseOf() {
 
 template <class Dash>
 void expectForm(Dash& dash, const char* hex) {
-    EXPECT_EQ(hexOf(bytesOf(hex)), hexOf(store(dash)));
+    EXPECT_EQ(toHex(fromHex(hex)), toHex(serialized(dash)));
     Dash loaded;
-    ASSERT_EQ(0, load(loaded, bytesOf(hex)));
-    EXPECT_EQ(hexOf(bytesOf(hex)), hexOf(store(loaded)));
+    ASSERT_EQ(0, deserialized(loaded, fromHex(hex)));
+    EXPECT_EQ(toHex(fromHex(hex)), toHex(serialized(loaded)));
     // Every shorter stream is refused and leaves no trace.
     Dash untouched;
-    const std::string before = store(untouched);
-    for (size_t size = 0; size < bytesOf(hex).size(); ++size) {
-        EXPECT_EQ(CArchiveException::endOfFile, load(untouched, bytesOf(hex).substr(0, size)));
-        EXPECT_EQ(before, store(untouched)) << size;
+    const std::string before = serialized(untouched);
+    for (size_t size = 0; size < fromHex(hex).size(); ++size) {
+        EXPECT_EQ(CArchiveException::endOfFile, deserialized(untouched, fromHex(hex).substr(0, size)));
+        EXPECT_EQ(before, serialized(untouched)) << size;
     }
 }
 
@@ -88,7 +88,7 @@ TEST(StoredForm, StylesComeBackFromConstructionAndTheDeviceContextStays) {
     COrvDrawDashDash dash;
     dash.m_nStyle1 = 99;
     COrvDrawDashDash loaded(reinterpret_cast<HDC>(1));
-    ASSERT_EQ(0, load(loaded, store(dash)));
+    ASSERT_EQ(0, deserialized(loaded, serialized(dash)));
     EXPECT_EQ(0x12200, loaded.m_nStyle0);
     EXPECT_EQ(0x12205, loaded.m_nStyle1);
     EXPECT_EQ(reinterpret_cast<HDC>(1), loaded.m_hDC);
@@ -99,8 +99,8 @@ TEST(StoredForm, Curve) {
     curve.SetDrawName("线");
     curve.m_nIndex = 5;
     curve.m_dCurX = 1.5;
-    const std::string head = bytesOf("02CFDF 05000000 000000000000F83F 0000000000000000");
-    EXPECT_EQ(hexOf(head + int32(0)), hexOf(store(curve)));
+    const std::string head = fromHex("02CFDF 05000000 000000000000F83F 0000000000000000");
+    EXPECT_EQ(toHex(head + int32(0)), toHex(serialized(curve)));
 
     struct {
         std::function<COrvDrawBasicDash*()> make;
@@ -116,24 +116,24 @@ TEST(StoredForm, Curve) {
         std::unique_ptr<COrvDrawBasicDash> dash(row.make());
         dash->m_nTag = 77;
         curve.m_pDash = dash.get();
-        const std::string stored = store(curve);
-        EXPECT_EQ(hexOf(head + int32(row.held) + int32(row.type) + store(*dash)), hexOf(stored));
+        const std::string stored = serialized(curve);
+        EXPECT_EQ(toHex(head + int32(row.held) + int32(row.type) + serialized(*dash)), toHex(stored));
 
         COrvDrawBasicDash other;
         COrvDrawCurve loaded(&other);
         for (size_t size = 0; size < stored.size(); ++size) {
-            EXPECT_EQ(CArchiveException::endOfFile, load(loaded, stored.substr(0, size)));
+            EXPECT_EQ(CArchiveException::endOfFile, deserialized(loaded, stored.substr(0, size)));
             EXPECT_EQ(&other, loaded.m_pDash);
             EXPECT_EQ(0, loaded.m_nIndex);
         }
-        ASSERT_EQ(0, load(loaded, stored));
+        ASSERT_EQ(0, deserialized(loaded, stored));
         std::unique_ptr<COrvDrawBasicDash> owned(loaded.m_pDash);
-        EXPECT_EQ(hexOf(stored), hexOf(store(loaded)));
+        EXPECT_EQ(toHex(stored), toHex(serialized(loaded)));
     }
     for (const std::string& kind : {int32(1) + int32(0), int32(1) + int32(6), int32(2) + int32(1),
                                     int32(3) + int32(1), int32(-1) + int32(101)}) {
         COrvDrawCurve loaded;
-        EXPECT_EQ(CArchiveException::badClass, load(loaded, head + kind + std::string(200, '\0')));
+        EXPECT_EQ(CArchiveException::badClass, deserialized(loaded, head + kind + std::string(200, '\0')));
         EXPECT_STREQ("", loaded.m_strName);
     }
 }
@@ -141,7 +141,7 @@ TEST(StoredForm, Curve) {
 std::string formOf(int type) {
     COrvDrawBasicDash base;
     COrvDrawDashWeaver weaver;
-    return int32(type) + (type == 5 ? store(base) : type == 101 ? store(weaver) : "");
+    return int32(type) + (type == 5 ? serialized(base) : type == 101 ? serialized(weaver) : "");
 }
 
 TEST(LineTypeFile, StoresTheBuiltInSetInOrder) {
@@ -149,17 +149,17 @@ TEST(LineTypeFile, StoresTheBuiltInSetInOrder) {
     set.m_nVersion = 3;
     set.m_strName = "线型";
     set.InitToGerApp();
-    std::string expected = bytesOf("03000000 04CFDFD0CD 05000000");
+    std::string expected = fromHex("03000000 04CFDFD0CD 05000000");
     for (int type : {101, 1, 2, 3, 4}) {
         ASSERT_TRUE(set.GetDashFromType(type));
-        expected += int32(type) + store(*set.GetDashFromType(type));
+        expected += int32(type) + serialized(*set.GetDashFromType(type));
     }
-    EXPECT_EQ(hexOf(expected), hexOf(store(set)));
+    EXPECT_EQ(toHex(expected), toHex(serialized(set)));
     EXPECT_EQ(NULL, set.GetDashFromType(0));
 
     // Only the zig-zag comes back; what follows is read out of step.
     COrvDrawManage loaded;
-    ASSERT_EQ(0, load(loaded, expected));
+    ASSERT_EQ(0, deserialized(loaded, expected));
     EXPECT_EQ(3, loaded.m_nVersion);
     EXPECT_TRUE(loaded.GetDashFromType(101));
     for (int type : {1, 2, 3, 4, 5})
@@ -167,7 +167,7 @@ TEST(LineTypeFile, StoresTheBuiltInSetInOrder) {
 }
 
 TEST(LineTypeFile, LoadsWhatItKnowsAndStaysAsItWasOtherwise) {
-    const std::string head = bytesOf("03000000 01 4E"); // version 3, "N"
+    const std::string head = fromHex("03000000 01 4E"); // version 3, "N"
     struct {
         const char* name;
         std::string bytes;
@@ -179,9 +179,9 @@ TEST(LineTypeFile, LoadsWhatItKnowsAndStaysAsItWasOtherwise) {
         {"both known kinds", head + int32(3) + formOf(5) + formOf(101) + formOf(5), 0, 3},
         {"unknown ones leave nothing", head + int32(2) + int32(6) + int32(-1), 0, 0},
         {"a count beyond the bytes", head + int32(0x7FFFFFFF) + formOf(5), CArchiveException::endOfFile, 5},
-        {"an endless name", int32(3) + bytesOf("FF FFFF FFFFFFF0 4E"), CArchiveException::endOfFile, 5},
+        {"an endless name", int32(3) + fromHex("FF FFFF FFFFFFF0 4E"), CArchiveException::endOfFile, 5},
         {"an endless type name",
-         head + int32(1) + int32(5) + std::string(20, '\0') + bytesOf("FF FFFF FFFFFF7F"),
+         head + int32(1) + int32(5) + std::string(20, '\0') + fromHex("FF FFFF FFFFFF7F"),
          CArchiveException::endOfFile, 5},
         {"empty", "", CArchiveException::endOfFile, 5},
     };
@@ -189,10 +189,10 @@ TEST(LineTypeFile, LoadsWhatItKnowsAndStaysAsItWasOtherwise) {
         SCOPED_TRACE(row.name);
         COrvDrawManage set;
         set.InitToGerApp();
-        EXPECT_EQ(row.cause, load(set, row.bytes));
+        EXPECT_EQ(row.cause, deserialized(set, row.bytes));
         EXPECT_EQ(row.cause ? 0 : 3, set.m_nVersion);
         EXPECT_EQ(row.cause ? "" : "N", std::string(set.m_strName));
-        const std::string stored = store(set);
+        const std::string stored = serialized(set);
         const size_t name = row.cause ? 0 : 1;
         EXPECT_EQ(int32(row.count), stored.substr(4 + 1 + name, 4));
     }
@@ -200,7 +200,7 @@ TEST(LineTypeFile, LoadsWhatItKnowsAndStaysAsItWasOtherwise) {
     for (size_t size = 0; size < good.size(); ++size) {
         COrvDrawManage set;
         set.InitToGerApp();
-        EXPECT_EQ(CArchiveException::endOfFile, load(set, good.substr(0, size)));
+        EXPECT_EQ(CArchiveException::endOfFile, deserialized(set, good.substr(0, size)));
         EXPECT_TRUE(set.GetDashFromType(4)) << size;
     }
 }

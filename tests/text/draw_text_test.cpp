@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "orvfc/text/TextContext.h"
+#include "support/paper.h"
 
 using namespace orv::test;
 
@@ -122,27 +123,20 @@ TEST(DrawText, FillsFramesAndShadesTheTurnedRectangle) {
 }
 
 TEST(DrawText, BorderRunsAlongTheSides) {
-    CDC dc;
-    dc.CreateCompatibleDC(NULL);
-    CClientDC screen(NULL);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, 100, 100);
-    CBitmap* old = dc.SelectObject(&bitmap);
-    dc.FillSolidRect(0, 0, 100, 100, 0xFFFFFF);
+    Paper paper(100, 100);
     COrvDrawText text;
     text.SetShowRect(CRect(10, 20, 90, 80));
     text.LSetDrawBorder(TRUE);
     text.LSetBorderColor(0x0000FF);
     text.LSetDrawShade(TRUE);
-    text.Draw(&dc, " ");
+    text.Draw(&paper.dc, " ");
     for (const CPoint p : {CPoint(10, 20), CPoint(10, 50), CPoint(50, 20), CPoint(90, 22), CPoint(12, 80)})
-        EXPECT_EQ(0x0000FFu, dc.GetPixel(p.x, p.y)) << p.x << "," << p.y;
+        EXPECT_EQ(0x0000FFu, paper.at(p.x, p.y)) << p.x << "," << p.y;
     const COLORREF shade = ::GetSysColor(COLOR_3DDKSHADOW);
     for (const CPoint p : {CPoint(90, 50), CPoint(50, 80), CPoint(95, 85)})
-        EXPECT_EQ(shade, dc.GetPixel(p.x, p.y)) << p.x << "," << p.y;
+        EXPECT_EQ(shade, paper.at(p.x, p.y)) << p.x << "," << p.y;
     for (const CPoint p : {CPoint(50, 50), CPoint(93, 22), CPoint(12, 83), CPoint(97, 87)})
-        EXPECT_EQ(0xFFFFFFu, dc.GetPixel(p.x, p.y)) << p.x << "," << p.y;
-    dc.SelectObject(old);
+        EXPECT_EQ(kWhite, paper.at(p.x, p.y)) << p.x << "," << p.y;
 }
 
 TEST(DrawText, MeasuresWhatItDraws) {

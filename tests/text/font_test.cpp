@@ -7,8 +7,8 @@
 #include <functional>
 #include <limits>
 #include <memory>
-#include <vector>
 
+#include "afx/afx_test.h"
 #include "orvfc/ORVFC.h"
 #include "support/debug_events.h"
 #include "support/gdi_count.h"
@@ -281,86 +281,36 @@ TEST(Font, ComesFromTheDialogOrStays) {
 
 // --- stored form
 
-template <class T>
-void put(std::vector<BYTE>& bytes, T value) {
-    const BYTE* p = reinterpret_cast<const BYTE*>(&value);
-    bytes.insert(bytes.end(), p, p + sizeof value);
-}
-
-std::vector<BYTE> stored(COrvFont& font) {
-    CMemFile file;
-    CArchive ar(&file, CArchive::store);
-    font.Serialize(ar);
-    ar.Close();
-    std::vector<BYTE> bytes(static_cast<size_t>(file.GetLength()));
-    file.SeekToBegin();
-    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-    return bytes;
-}
-
-bool load(COrvFont& font, std::vector<BYTE> bytes) {
-    CMemFile file(bytes.data(), static_cast<UINT>(bytes.size()));
-    CArchive ar(&file, CArchive::load);
-    try {
-        font.Serialize(ar);
-        return true;
-    } catch (CArchiveException* e) {
-        e->Delete();
-        return false;
-    }
-}
-
-std::vector<BYTE> filledBytes() {
-    std::vector<BYTE> bytes;
-    put(bytes, int32_t(0));
-    put(bytes, BYTE(GB2312_CHARSET));
-    put(bytes, BYTE(5));
-    put(bytes, LONG(-455));
-    put(bytes, LONG(-31));
-    put(bytes, BYTE(2));
-    put(bytes, LONG(120));
-    put(bytes, BYTE(4));
-    put(bytes, BYTE(0x31));
-    put(bytes, BYTE(6));
-    put(bytes, BYTE(1));
-    put(bytes, BYTE(3));
-    put(bytes, LONG(600));
-    put(bytes, LONG(7));
-    put(bytes, DWORD(0x00102030));
-    put(bytes, 1.0);
-    put(bytes, LONG(20));
-    put(bytes, 15.0);
-    for (const char ch : {'\x04', '\xBA', '\xDA', '\xCC', '\xE5'}) // 黑体
-        put(bytes, ch);
-    return bytes;
+std::string filledBytes() {
+    return stored([](CArchive& ar) {
+        ar << 0 << BYTE(GB2312_CHARSET) << BYTE(5) << LONG(-455) << LONG(-31) << BYTE(2) << LONG(120)
+           << BYTE(4) << BYTE(0x31) << BYTE(6) << BYTE(1) << BYTE(3) << LONG(600) << LONG(7)
+           << DWORD(0x00102030) << 1.0 << LONG(20) << 15.0 << CString("黑体");
+    });
 }
 
 TEST(Font, IsStoredFieldByField) {
     COrvFont font;
     fill(font);
-    EXPECT_EQ(filledBytes(), stored(font));
+    EXPECT_EQ(toHex(filledBytes()), toHex(serialized(font)));
     COrvFont loaded;
-    ASSERT_TRUE(load(loaded, filledBytes()));
+    ASSERT_EQ(CArchiveException::none, deserialized(loaded, filledBytes()));
     EXPECT_FALSE(inStep(loaded));
     loaded.ReCreateFont();
     EXPECT_TRUE(inStep(loaded));
-    EXPECT_EQ(filledBytes(), stored(loaded));
-}
-
-TEST(Font, WhatWasNotRecreatedIsNotStored) {
-    COrvFont font;
-    fill(font);
+    EXPECT_EQ(filledBytes(), serialized(loaded));
+    // What was not recreated is not stored.
     font.SetFontBold(1, 0);
-    EXPECT_EQ(filledBytes(), stored(font));
+    EXPECT_EQ(filledBytes(), serialized(font));
     EXPECT_EQ(0, font.GetFontBold());
 }
 
 TEST(Font, ABrokenStreamLeavesTheFont) {
-    const std::vector<BYTE> good = filledBytes();
+    const std::string good = filledBytes();
     for (size_t cut = 0; cut < good.size(); ++cut) {
         COrvFont font;
         font.SetFontBold(1, 0);
-        EXPECT_FALSE(load(font, {good.begin(), good.begin() + static_cast<ptrdiff_t>(cut)})) << cut;
+        EXPECT_EQ(CArchiveException::endOfFile, deserialized(font, good.substr(0, cut))) << cut;
         EXPECT_EQ(CString("宋体"), font.GetFontName());
         EXPECT_EQ(1, font.GetFontBold()) << "not yet made, and still wanted";
     }
@@ -369,21 +319,13 @@ TEST(Font, ABrokenStreamLeavesTheFont) {
 TEST(Font, IsStoredAsAnObjectOfSchema1) {
     COrvFont font;
     fill(font);
-    CMemFile file;
-    CArchive out(&file, CArchive::store);
-    out << &font;
-    out.Close();
-    file.SeekToBegin();
-    BYTE head[4];
-    file.Read(head, sizeof head);
-    EXPECT_EQ(1, head[2] | head[3] << 8);
-    file.SeekToBegin();
-    CArchive in(&file, CArchive::load);
+    const std::string bytes = stored([&](CArchive& ar) { ar << &font; });
+    EXPECT_EQ("01 00", toHex(bytes.substr(2, 2)));
     COrvFont* read = NULL;
-    in >> read;
-    const std::unique_ptr<COrvFont> loaded(read);
-    loaded->ReCreateFont();
-    EXPECT_EQ(filledBytes(), stored(*loaded));
+    loaded(bytes, [&](CArchive& ar) { ar >> read; });
+    const std::unique_ptr<COrvFont> owned(read);
+    owned->ReCreateFont();
+    EXPECT_EQ(filledBytes(), serialized(*owned));
 }
 
 TEST(Font, AWholeDescriptionKeepsAllItsBytes) {
@@ -397,13 +339,9 @@ TEST(Font, AWholeDescriptionKeepsAllItsBytes) {
 }
 
 TEST(Font, AnyBytesMakeASafeFont) {
-    std::vector<BYTE> bytes = filledBytes();
-    bytes.resize(bytes.size() - 5);
-    std::fill(bytes.begin(), bytes.end(), BYTE(0xFF));
-    bytes.push_back(200);
-    bytes.insert(bytes.end(), 200, BYTE(0xBA));
+    const std::string numbers(filledBytes().size() - 5, '\xFF'), name(200, '\xBA');
     COrvFont font;
-    ASSERT_TRUE(load(font, bytes));
+    ASSERT_EQ(CArchiveException::none, deserialized(font, numbers + char(200) + name));
     EXPECT_EQ(30, font.GetFontName().GetLength());
     font.ReCreateFont();
     font.AssertValid();
