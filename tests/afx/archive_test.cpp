@@ -235,25 +235,29 @@ public:
     void fill(UINT n) { FillBuffer(n); }
 };
 
-TEST(Archive, DirectBuffersAreNotCopied) {
-    BYTE byte;
+TEST(Archive, FillingABufferKeepsWhatIsUnread) {
     CMemFile direct;
-    for (int i = 0; i < 300; i++)
-        direct.Write(&(byte = (BYTE)i), 1);
-    direct.SeekToBegin();
-    OpenArchive view(&direct, CArchive::load, 128);
-    view.fill(128);
-    const BYTE* start = view.current();
-    BYTE read[100];
-    view.EnsureRead(read, 100);
-    EXPECT_EQ(start + 100, view.current()); // no copy
-    view.fill(150);                         // reaches back for the 28 bytes that are left
-    EXPECT_EQ(start + 100, view.current());
-    EXPECT_EQ((BYTE)249, view.current()[149]);
-    BYTE rest[200];
-    view.EnsureRead(rest, 200);
-    EXPECT_TRUE(rest[0] == 100 && rest[199] == (BYTE)299);
-    view.Abort();
+    CopiedMemFile copied;
+    for (CMemFile* file : {&direct, (CMemFile*)&copied}) {
+        for (int i = 0; i < 300; i++) {
+            const BYTE b = (BYTE)i;
+            file->Write(&b, 1);
+        }
+        file->SeekToBegin();
+        BYTE own[200], read[100];
+        OpenArchive ar(file, CArchive::load, file == &copied ? sizeof(own) : 128,
+                       file == &copied ? own : NULL);
+        ar.fill(128);
+        const BYTE* start = ar.current();
+        ar.EnsureRead(read, 100);
+        EXPECT_EQ(start + 100, ar.current());
+        ar.fill(150);
+        EXPECT_EQ(file == &copied ? own : start + 100, ar.current()); // moved to the front, or no copy at all
+        EXPECT_TRUE(ar.current()[0] == 100 && ar.current()[149] == (BYTE)249);
+        BYTE rest[200];
+        ar.EnsureRead(rest, 200);
+        EXPECT_TRUE(rest[0] == 100 && rest[199] == (BYTE)299);
+    }
 }
 
 TEST(Archive, FixedBlocksTakeWhatFits) {
