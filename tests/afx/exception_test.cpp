@@ -42,10 +42,9 @@ TEST(Exception, BlocksAreChosenByType) {
     EXPECT_EQ(0, thrownBy([] {}));
     EXPECT_EQ(1, thrownBy([] { AfxThrowFileException(CFileException::diskFull); }));
     EXPECT_EQ(2, thrownBy([] { AfxThrowArchiveException(CArchiveException::badClass); }));
-    EXPECT_EQ(3, thrownBy([] { AfxThrowMemoryException(); }));
-    EXPECT_EQ(3, thrownBy([] { AfxThrowMemoryException(); })); // the same object once more
-    EXPECT_EQ(3, thrownBy([] { AfxThrowNotSupportedException(); }));
-    EXPECT_EQ(3, thrownBy([] { AfxThrowUserException(); }));
+    for (const auto thrower : {AfxThrowMemoryException, AfxThrowMemoryException, // the same object once more
+                               AfxThrowNotSupportedException, AfxThrowUserException})
+        EXPECT_EQ(3, thrownBy(thrower));
 }
 
 TEST(Exception, ThrowLastPassesItOn) {
@@ -80,9 +79,7 @@ TEST(Exception, MessagesNameTheFileAndTheReason) {
 }
 
 TEST(Exception, MessagesAreCutBetweenCharacters) {
-    const CFileException e(CFileException::fileNotFound, -1, "a");
-    EXPECT_EQ("找", messageOf(e, 3));
-    EXPECT_EQ("找", messageOf(e, 4));
-    EXPECT_EQ("找不", messageOf(e, 5));
-    EXPECT_EQ("", messageOf(e, 1));
+    const char* const cut[] = {"", "", "找", "找", "找不"};
+    for (UINT n = 1; n <= std::size(cut); n++)
+        EXPECT_EQ(cut[n - 1], messageOf(CFileException(CFileException::fileNotFound, -1, "a"), n)) << n;
 }

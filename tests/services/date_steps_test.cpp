@@ -36,17 +36,14 @@ TEST(DateSteps, CalendarAgreesWithTheFoundation) {
         ASSERT_EQ(number, orv::dayNumber(own)) << date;
         ASSERT_LE(own.day, orv::daysInMonth(own.year, own.month)) << date;
     };
-    for (int number = orv::kFirstDay; number <= orv::kLastDay; number += 13)
+    for (int number = orv::kFirstDay; number <= orv::kLastDay; number += 13) {
         expectSame(number);
+        expectSame(number < 0 ? number - 0.75 : number + 0.75);
+    }
     for (int year : {100, 400, 1900, 2000, 2004, 2100, 9999}) {
         for (int number = 0; number < 365; ++number)
             expectSame(day(10000 * year + 101) + number);
     }
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE(seed);
-    std::mt19937 engine(seed);
-    for (int i = 0; i < 2000; ++i)
-        expectSame(randomDate(engine, orv::kFirstDay, orv::kLastDay));
     for (double date : {2.9999999, -2.9999999, 2.99999, -2.99999, -0.9999999, orv::kLastDay + 0.9999999,
                         orv::kFirstDay - 0.9999999})
         expectSame(date);

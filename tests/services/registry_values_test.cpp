@@ -25,11 +25,18 @@ protected:
         EXPECT_EQ(this->value(name).bytes.size(), store.m_Info.dwSize) << name;
     }
     template <class Value>
-    void expectComesBack(Store& store, Value& value, Value& back, const std::string& bytes) {
+    void expectComesBack(Store& store, Value& value, Value& back, const std::string& bytes,
+                         DWORD type = REG_BINARY) {
         ASSERT_TRUE(store.Write("value", value));
-        expectStored(store, "value", REG_BINARY, bytes);
+        expectStored(store, "value", type, bytes);
         ASSERT_TRUE(store.Read("value", back));
-        expectInfo(store, 0, REG_BINARY, static_cast<DWORD>(this->value("value").bytes.size()));
+        expectInfo(store, 0, type, static_cast<DWORD>(this->value("value").bytes.size()));
+    }
+    template <class Value>
+    void expectRefused(Store& store) {
+        Value value;
+        EXPECT_FALSE(store.Read("bad", value));
+        EXPECT_TRUE(value.IsEmpty());
     }
     void expectInfo(const COrvRegStore& store, LONG result, DWORD type, DWORD size) {
         EXPECT_EQ(result, store.m_Info.lResult);
@@ -45,17 +52,12 @@ TYPED_TEST_SUITE(RegistryValues, Stores);
 
 TYPED_TEST(RegistryValues, Scalars) {
     TypeParam store = this->template opened<TypeParam>();
-    ASSERT_TRUE(store.Write("int", -2));
-    this->expectStored(store, "int", REG_DWORD, "FE FF FF FF");
-    ASSERT_TRUE(store.Write("dword", 0x01020304ul));
-    this->expectStored(store, "dword", REG_DWORD, "04 03 02 01");
-    int n = 0;
-    DWORD dw = 0;
-    EXPECT_TRUE(store.Read("int", n));
+    int stored = -2, n = 0;
+    this->expectComesBack(store, stored, n, "FE FF FF FF", REG_DWORD);
     EXPECT_EQ(-2, n);
-    EXPECT_TRUE(store.Read("dword", dw));
-    EXPECT_EQ(0x01020304u, dw);
-    this->expectInfo(store, 0, REG_DWORD, 4);
+    DWORD storedWord = 0x01020304, word = 0;
+    this->expectComesBack(store, storedWord, word, "04 03 02 01", REG_DWORD);
+    EXPECT_EQ(0x01020304u, word);
     EXPECT_FALSE(store.Read("none", n));
     EXPECT_EQ(-2, n);
     this->expectInfo(store, ERROR_FILE_NOT_FOUND, 0, 0);
@@ -279,22 +281,14 @@ TYPED_TEST(RegistryValues, HostileValues) {
         SCOPED_TRACE(row.type);
         SCOPED_TRACE(row.bytes.size());
         this->setValue("bad", row.type, row.bytes);
-        CStringList list;
-        CStringArray texts;
-        CByteArray raw;
-        CDWordArray numbers;
-        CWordArray words;
-        CObList objects;
+        this->template expectRefused<CStringList>(store);
+        this->template expectRefused<CStringArray>(store);
+        this->template expectRefused<CByteArray>(store);
+        this->template expectRefused<CDWordArray>(store);
+        this->template expectRefused<CWordArray>(store);
+        this->template expectRefused<CObList>(store);
         POINT point = {7, 8}, *pPoint = &point;
-        EXPECT_FALSE(store.Read("bad", list));
-        EXPECT_FALSE(store.Read("bad", texts));
-        EXPECT_FALSE(store.Read("bad", raw));
-        EXPECT_FALSE(store.Read("bad", numbers));
-        EXPECT_FALSE(store.Read("bad", words));
-        EXPECT_FALSE(store.Read("bad", objects));
         EXPECT_FALSE(store.Read("bad", pPoint));
-        EXPECT_TRUE(list.IsEmpty() && texts.IsEmpty() && raw.IsEmpty() && numbers.IsEmpty() &&
-                    words.IsEmpty() && objects.IsEmpty());
         EXPECT_EQ(7, point.x);
         CRect rect(1, 2, 3, 4);
         if (row.bytes.size() < sizeof(RECT)) {
@@ -344,17 +338,16 @@ class RegistryTexts : public orv::test::RegistryTest {};
 
 TEST_F(RegistryTexts, RegisterStoresTheText) {
     COrvRegister store = opened<COrvRegister>();
-    ASSERT_TRUE(store.Write("text", "誠 a"));
-    EXPECT_EQ("D5 5C 20 61 00", toHex(value("text").bytes));
-    EXPECT_EQ(REG_SZ, value("text").type);
-    EXPECT_EQ(1u, store.m_Info.dwType);
-    EXPECT_EQ(5u, store.m_Info.dwSize);
-    CString back;
-    EXPECT_TRUE(store.Read("text", back));
-    EXPECT_TRUE(back == "誠 a");
-    ASSERT_TRUE(store.Write("empty", ""));
-    EXPECT_TRUE(store.Read("empty", back));
-    EXPECT_TRUE(back.IsEmpty());
+    for (const std::string text : {"誠 a", ""}) {
+        ASSERT_TRUE(store.Write("text", text.c_str())) << text;
+        EXPECT_EQ(REG_SZ, value("text").type) << text;
+        EXPECT_EQ(toHex(text + '\0'), toHex(value("text").bytes));
+        EXPECT_EQ(1u, store.m_Info.dwType) << text;
+        EXPECT_EQ(text.size() + 1, store.m_Info.dwSize) << text;
+        CString back = "old";
+        EXPECT_TRUE(store.Read("text", back)) << text;
+        EXPECT_EQ(text, orv::test::bytesOf(back));
+    }
 }
 
 // The pointer's own bytes, and zeros: an address below 128 byte by byte keeps the code page out of the
