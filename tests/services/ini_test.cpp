@@ -76,39 +76,31 @@ TEST_F(IniReader, LongValues) {
 
 // Listings hold 1998 bytes; what does not fit whole is left out.
 TEST_F(IniReader, LongListings) {
-    std::string contents;
+    std::string contents, listed[2];
+    const auto write = [&](std::string& whatFits, const std::string& text, const std::string& line) {
+        contents += line + "\r\n";
+        if (whatFits.size() + text.size() < 1998)
+            whatFits += text + "|";
+    };
     for (int i = 0; i < 1000; ++i)
-        contents += "[section" + std::to_string(i) + "]\r\n";
+        write(listed[0], "section" + std::to_string(i), "[section" + std::to_string(i) + "]");
     contents += "[long]\r\n";
-    for (int i = 0; i < 100000; ++i)
-        contents += "key" + std::to_string(i) + "=" + std::to_string(i) + "\r\n";
-    COrvIniReader ini(folder_.write("a.ini", contents));
-    for (const bool names : {true, false}) {
-        CStringList* list = names ? ini.GetSectionNames() : ini.GetSectionData("long");
-        EXPECT_EQ(1998, ini.m_lRetValue);
-        const std::string all = joined(list);
-        EXPECT_LE(all.size(), 1998u);
-        EXPECT_GT(all.size(), 1980u);
-        int number = 0;
-        for (POSITION pos = list->GetHeadPosition(); pos != NULL; ++number) {
-            const std::string n = std::to_string(number);
-            EXPECT_TRUE(list->GetNext(pos) == (names ? "section" + n : "key" + n + "=" + n).c_str())
-                << number;
-        }
+    for (int i = 0; i < 100000; ++i) {
+        const std::string line = "key" + std::to_string(i) + "=" + std::to_string(i);
+        write(listed[1], line, line);
     }
+    COrvIniReader ini(folder_.write("a.ini", contents));
+    EXPECT_EQ(listed[0], joined(ini.GetSectionNames()));
+    EXPECT_EQ(1998, ini.m_lRetValue);
+    EXPECT_EQ(listed[1], joined(ini.GetSectionData("long")));
+    EXPECT_EQ(1998, ini.m_lRetValue);
     EXPECT_TRUE(ini.SectionExists("long"));
     EXPECT_TRUE(ini.GetKeyValue("key99999", "long") == "99999");
 }
 
 TEST_F(IniReader, OddFiles) {
-    // Whether a section is found directly behind a byte order mark is the system's affair.
+    // Whether the first section is found behind a byte order mark is the system's affair.
     COrvIniReader ini = folder_.write("bom.ini", "\xEF\xBB\xBF[first]\r\na=1\r\n[second]\r\nb=2");
-    char bare[255] = "";
-    ::GetPrivateProfileStringA("first", "a", "", bare, sizeof(bare), ini.m_strFileName);
-    const bool known = bare[0] != '\0';
-    EXPECT_STREQ(known ? "1" : "", ini.GetKeyValue("a", "first"));
-    EXPECT_EQ(known, ini.SectionExists("first") != 0);
-    EXPECT_EQ(known ? "a=1|" : "", joined(ini.GetSectionData("first")));
     EXPECT_NE(std::string::npos, joined(ini.GetSectionNames()).find("second|"));
     EXPECT_TRUE(ini.GetKeyValue("b", "second") == "2"); // no newline at the end
     std::string binary;
