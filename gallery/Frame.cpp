@@ -22,6 +22,7 @@ ON_WM_CREATE()
 ON_WM_SETFOCUS()
 ON_WM_ERASEBKGND()
 ON_WM_CONTEXTMENU()
+ON_WM_SYSCOLORCHANGE()
 ON_REGISTERED_MESSAGE(WM_GFX_OUTBAR_LBUTTON_DOWN, &Frame::OnClicked)
 ON_COMMAND(changeViewId, &Frame::OnChangeView)
 END_MESSAGE_MAP()
@@ -64,6 +65,11 @@ void Frame::fillBar() {
         }
         m_bar.InsertItem(folder, -1, page.title, folder % barIcons, number++);
     }
+}
+
+void Frame::OnSysColorChange() {
+    CFrameWnd::OnSysColorChange();
+    SendMessageToDescendants(WM_SYSCOLORCHANGE);
 }
 
 void Frame::choose(int page) {

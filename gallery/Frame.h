@@ -20,6 +20,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSysColorChange(); // told to top-level windows alone: the bar wants to know
     afx_msg LRESULT OnClicked(WPARAM wParam, LPARAM lParam);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
     afx_msg void OnChangeView();

@@ -305,6 +305,7 @@ private:
     bool TrackMessage(const MSG& msg, Drag& drag);
     void TrackMove(const CPoint& point, Drag& drag);
     void TrackTimer(Drag& drag);
+    void ClearDrag();
     void Drop(const Drag& drag);
     void SetDragMark(int nItem);
 

@@ -24,10 +24,11 @@ struct CGfxOutBarCtrl::Drag {
     int folder; // where the item comes from
     int item;
     CPoint press;
-    CPoint last;           // of the mouse
-    bool moving = false;   // a drag, no longer a press
-    bool released = false; // the button, in the end
-    int dropFolder = -1;   // -1: it cannot be dropped here
+    CPoint last;            // of the mouse
+    bool moving = false;    // a drag, no longer a press
+    bool released = false;  // the button, in the end
+    bool calledOff = false; // by the right button, which is still down
+    int dropFolder = -1;    // -1: it cannot be dropped here
     int dropItem = -1;
     int header = -1; // a header under the mouse
     int headerTicks = 0;
@@ -56,9 +57,7 @@ void CGfxOutBarCtrl::TrackItem(int nItem, const CPoint& ptPress) {
     KillTimer(dragTimer);
     if (::GetCapture() == m_hWnd)
         ::ReleaseCapture();
-    SetDragMark(-1);
-    HighlightItem(-1, false);
-    HighlightFolder(-1);
+    ClearDrag();
     if (!drag.released)
         return;
     if (drag.moving) {
@@ -69,6 +68,12 @@ void CGfxOutBarCtrl::TrackItem(int nItem, const CPoint& ptPress) {
         ClickItem(nItem);
 }
 
+void CGfxOutBarCtrl::ClearDrag() {
+    SetDragMark(-1);
+    HighlightItem(-1, false);
+    HighlightFolder(-1);
+}
+
 // Whether the mouse is on the item that was pressed. Another folder may have opened since.
 bool CGfxOutBarCtrl::IsOver(const Drag& drag) const {
     int nIndex;
@@ -76,6 +81,7 @@ bool CGfxOutBarCtrl::IsOver(const Drag& drag) const {
 }
 
 // True: done with. Keys go nowhere meanwhile; Esc and the right button end it all.
+// The right button's way up is waited for: outside it would bring a menu.
 bool CGfxOutBarCtrl::TrackMessage(const MSG& msg, Drag& drag) {
     if (msg.message >= WM_KEYFIRST && msg.message <= WM_KEYLAST) {
         if (msg.message == WM_KEYDOWN && msg.wParam == VK_ESCAPE)
@@ -86,18 +92,27 @@ bool CGfxOutBarCtrl::TrackMessage(const MSG& msg, Drag& drag) {
         return false;
     switch (msg.message) {
     case WM_MOUSEMOVE:
-        if (msg.wParam & MK_LBUTTON)
-            TrackMove(CPoint(msg.lParam), drag);
-        else
+        if (!(msg.wParam & (drag.calledOff ? MK_RBUTTON : MK_LBUTTON)))
             m_bTracking = false; // the button was let go where nobody told
+        else if (!drag.calledOff)
+            TrackMove(CPoint(msg.lParam), drag);
         return true;
     case WM_LBUTTONUP:
+        if (drag.calledOff)
+            return true;
         TrackMove(CPoint(msg.lParam), drag);
         drag.released = true;
         m_bTracking = false;
         return true;
     case WM_RBUTTONDOWN:
-        m_bTracking = false;
+        if (drag.moving)
+            ::SetCursor(m_hNoDragCursor);
+        drag.calledOff = true;
+        drag.moving = false;
+        ClearDrag();
+        return true;
+    case WM_RBUTTONUP:
+        m_bTracking = !drag.calledOff;
         return true;
     case WM_TIMER:
         if (msg.wParam != dragTimer)
