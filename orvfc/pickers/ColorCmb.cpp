@@ -100,9 +100,7 @@ BOOL CColorCmb::AskValue() {
     const HWND hWnd = m_hWnd;
     CColorDialog dialog(pCurrent ? pCurrent->m_crColor : 0, CC_FULLOPEN, this);
     const BOOL bChosen = dialog.DoModal() == IDOK;
-    if (!bChosen || FromHandlePermanent(hWnd) != this)
-        return bChosen;
-    SetCurrentColor(dialog.GetColor());
-    SetCustormToBottom();
-    return TRUE;
+    if (bChosen && FromHandlePermanent(hWnd) == this)
+        SetCurrentColor(dialog.GetColor());
+    return bChosen;
 }

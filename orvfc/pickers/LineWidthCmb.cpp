@@ -72,9 +72,7 @@ BOOL CLineWidthCmb::AskValue() {
     const HWND hWnd = m_hWnd;
     CValueInputDlg dialog(_T("线宽毫米值："), pCurrent ? pCurrent->m_dWidth : kOtherwise, this);
     const BOOL bChosen = dialog.DoModal() == IDOK;
-    if (!bChosen || FromHandlePermanent(hWnd) != this)
-        return bChosen;
-    SetCurrentWidth(dialog.m_dValue);
-    SetCustormToBottom();
-    return TRUE;
+    if (bChosen && FromHandlePermanent(hWnd) == this)
+        SetCurrentWidth(dialog.m_dValue);
+    return bChosen;
 }

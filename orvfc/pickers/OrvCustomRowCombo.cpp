@@ -1,11 +1,18 @@
 #include "OrvCustomRowCombo.h"
 
+namespace {
+
+constexpr UINT kListClosed = WM_APP + 0x23; // to itself
+
+} // namespace
+
 IMPLEMENT_DYNAMIC(COrvCustomRowCombo, COrvRecordCombo)
 
 BEGIN_MESSAGE_MAP(COrvCustomRowCombo, COrvRecordCombo)
 ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &COrvCustomRowCombo::OnSelendok)
 ON_CONTROL_REFLECT_EX(CBN_SELENDCANCEL, &COrvCustomRowCombo::OnSelendcancel)
 ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &COrvCustomRowCombo::OnCloseup)
+ON_MESSAGE(kListClosed, &COrvCustomRowCombo::OnListClosed)
 END_MESSAGE_MAP()
 
 // --- the custom row
@@ -37,8 +44,8 @@ int COrvCustomRowCombo::InsertBeforeCustom(COrvCmbRecord* pRecord) {
 
 // --- what is current
 
-void COrvCustomRowCombo::Remember() {
-    const COrvCmbRecord* pRecord = GetRecord(GetCurSel());
+void COrvCustomRowCombo::OnSelected() {
+    const COrvCmbRecord* pRecord = CurrentRecord<COrvCmbRecord>();
     if (!pRecord || IsCustom(*pRecord))
         return;
     m_strCurrent = pRecord->GetName();
@@ -67,7 +74,7 @@ void COrvCustomRowCombo::OnSelchange() {
     if (!pRecord)
         return;
     if (!IsCustom(*pRecord)) {
-        Remember();
+        OnSelected();
         PostChoice(GetChoiceMessage());
     } else if (GetDroppedState()) {
         m_bAskOnClose = TRUE;
@@ -81,7 +88,9 @@ void COrvCustomRowCombo::Ask() {
     const BOOL bChosen = AskValue();
     if (FromHandlePermanent(hWnd) != this)
         return; // gone while the user was asked
-    if (!bChosen)
+    if (bChosen)
+        SetCustormToBottom();
+    else
         SelectCurrentAgain();
     PostChoice(GetChoiceMessage());
 }
@@ -97,29 +106,34 @@ BOOL COrvCustomRowCombo::OnSelendcancel() {
 }
 
 BOOL COrvCustomRowCombo::OnCloseup() {
-    const BOOL bAsk = m_bAskOnClose;
-    m_bAskOnClose = FALSE;
-    if (bAsk && m_bCancelled)
+    if (m_bAskOnClose && m_bCancelled) {
+        m_bAskOnClose = FALSE;
         SelectCurrentAgain();
-    else if (bAsk)
-        Ask();
+    } else if (m_bAskOnClose) {
+        // A click closes the list before it tells which row it has chosen.
+        PostMessage(kListClosed);
+    }
     return FALSE;
 }
 
+LRESULT COrvCustomRowCombo::OnListClosed(WPARAM, LPARAM) {
+    if (!m_bAskOnClose || GetDroppedState())
+        return 0;
+    m_bAskOnClose = FALSE;
+    const COrvCmbRecord* pRecord = CurrentRecord<COrvCmbRecord>();
+    if (pRecord && IsCustom(*pRecord))
+        Ask();
+    return 0;
+}
+
 LRESULT COrvCustomRowCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    const LRESULT lResult = COrvRecordCombo::WindowProc(message, wParam, lParam);
-    switch (message) {
-    case CB_SETCURSEL:
-    case CB_SELECTSTRING:
-        Remember();
-        break;
-    case CB_RESETCONTENT:
+    // The rows go, and with them the choice to go back to.
+    if (message == CB_RESETCONTENT || message == WM_DESTROY) {
         m_strCurrent.Empty();
-        break;
-    default:
-        break;
+        m_pCurrent = NULL;
+        m_bAskOnClose = FALSE;
     }
-    return lResult;
+    return COrvRecordCombo::WindowProc(message, wParam, lParam);
 }
 
 void COrvCustomRowCombo::Dump(CDumpContext& dc) const {

@@ -40,15 +40,16 @@ protected:
     const COrvCmbRecord* m_pCurrent;
 
     void OnSelchange() override;
+    void OnSelected() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg BOOL OnSelendok();
     afx_msg BOOL OnSelendcancel();
     afx_msg BOOL OnCloseup();
+    afx_msg LRESULT OnListClosed(WPARAM, LPARAM);
     DECLARE_MESSAGE_MAP()
 
 private:
     void Ask();
-    void Remember();
     void SelectCurrentAgain();
 
     BOOL m_bAskOnClose = FALSE; // the open list stands on the custom row

@@ -168,6 +168,8 @@ TEST_F(LineCombos, StylesFiguresAndFillings) {
         EXPECT_EQ(4, combo.GetCurSel());
         EXPECT_EQ(1, combo.SetCurrentStyleName("45度斜线"));
         EXPECT_EQ(1, combo.GetCurrentStyle()) << "the first of two";
+        EXPECT_EQ(1, combo.SetCurrentStyle(-1));
+        EXPECT_STREQ("自定义图案 -1 ", combo.GetCurrentStyleName()) << "solid: no filling is no figure";
         combo.AddItem(2, CString("有色"), 0x0000FF);
         combo.ResetColor(0x00FF00);
         for (int i = 0; i < combo.GetCount(); ++i)
@@ -341,6 +343,34 @@ TEST_F(LineCombos, TheOpenListAsksWhenItIsClosed) {
     }
 }
 
+TEST_F(LineCombos, AClickInTheOpenListCountsWhereverTheKeysStand) {
+    CTestColorCmb combo;
+    attach(combo);
+    combo.ResetColors();
+    ASSERT_TRUE(focusOn(combo));
+    for (const int clicked : {17, 19}) {
+        combo.SetCurSel(2);
+        dialog.settle();
+        dialog.told.clear();
+        pressKey(VK_F4);
+        ASSERT_TRUE(waitUntil([&] { return combo.GetDroppedState(); }));
+        pressKey(VK_END);
+        ASSERT_TRUE(waitUntil([&] { return dialog.told.size() == 1; }));
+        CRect row;
+        ::SendMessage(listOf(combo), LB_GETITEMRECT, static_cast<WPARAM>(clicked),
+                      reinterpret_cast<LPARAM>(&row));
+        CWnd::FromHandle(listOf(combo))->ClientToScreen(&row);
+        const InDialogs user(dialog.m_hWnd, {{"", [](HWND) { pressKey(VK_ESCAPE); }}});
+        clickAt(row.left + 10, row.CenterPoint().y);
+        EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 3; }));
+        dialog.settle();
+        EXPECT_EQ("CBN_SELCHANGE 1000; CBN_SELCHANGE 1000; WM_LINE_COLOR_CMB_SELCHANGE 1000 0; ",
+                  dialog.toldText());
+        EXPECT_EQ(clicked == 19, user.done()) << "asked once, for the row 其它... alone";
+        EXPECT_EQ(clicked == 19 ? 2 : clicked, combo.GetCurSel());
+    }
+}
+
 TEST_F(LineCombos, TheCustomRowAlone) {
     CLineWidthCmb combo;
     attach(combo);
@@ -365,6 +395,17 @@ TEST_F(LineCombos, TheParentMayGoWhileTheUserIsAsked) {
     pressKey(VK_END);
     EXPECT_TRUE(waitUntil([&] { return user.done() && !dialog.m_hWnd; }));
     EXPECT_EQ(NULL, combo.m_hWnd);
+    // A new window knows nothing of the choice in the one before.
+    ASSERT_TRUE(dialog.open());
+    attach(combo);
+    combo.AddItem(1, "其它...");
+    combo.AddItem(2, "2");
+    ASSERT_TRUE(focusOn(combo));
+    dialog.told.clear();
+    const InDialogs again(dialog.m_hWnd, {{"输入数值", [](HWND) { pressKey(VK_ESCAPE); }}});
+    pressKey(VK_DOWN);
+    EXPECT_TRUE(waitUntil([&] { return again.done() && dialog.told.size() == 2; }));
+    EXPECT_EQ(0, combo.GetCurSel());
 }
 
 TEST_F(LineCombos, NothingIsLeftOver) {
