@@ -81,10 +81,7 @@ bool ColorPalette::open() {
         return false;
     ::SetWindowLongPtr(m_hWnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     if (m_tip.Create(&m_picker, TTS_ALWAYSTIP | TTS_NOPREFIX)) {
-        TOOLINFO tool = {};
-        tool.cbSize = sizeof tool;
-        tool.uFlags = TTF_TRACK | TTF_ABSOLUTE;
-        tool.hwnd = m_hWnd;
+        TOOLINFO tool = tipTool();
         tool.lpszText = const_cast<char*>("");
         m_tip.SendMessage(TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
     }
@@ -109,7 +106,7 @@ void ColorPalette::choose(int nCell) {
     if (bOwn)
         picker.ChooseOwn();
     else
-        picker.Choose(cr);
+        picker.SetColor(cr);
 }
 
 void ColorPalette::hover(int nCell) {
@@ -123,12 +120,18 @@ void ColorPalette::hover(int nCell) {
     showTip();
 }
 
+TOOLINFO ColorPalette::tipTool() const {
+    TOOLINFO tool = {};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE; // the whole structure is refused by older common controls
+    tool.uFlags = TTF_TRACK | TTF_ABSOLUTE;
+    tool.hwnd = m_hWnd;
+    return tool;
+}
+
 void ColorPalette::showTip() {
     if (!m_tip.m_hWnd)
         return;
-    TOOLINFO tool = {};
-    tool.cbSize = sizeof tool;
-    tool.hwnd = m_hWnd;
+    TOOLINFO tool = tipTool();
     const bool bShow = m_nHot >= 0 && !m_grid.isWide(m_nHot);
     if (bShow) {
         tool.lpszText = const_cast<char*>(m_rows[static_cast<size_t>(m_nHot)].strName.GetString());
@@ -204,13 +207,12 @@ LRESULT ColorPalette::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_PAINT: {
         PAINTSTRUCT ps;
-        const HDC hDC = ::BeginPaint(m_hWnd, &ps);
-        paint(*CDC::FromHandle(hDC));
+        paint(CDC::FromHandle(::BeginPaint(m_hWnd, &ps)));
         ::EndPaint(m_hWnd, &ps);
         return 0;
     }
     case WM_PRINTCLIENT:
-        paint(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
+        paint(CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
         return 0;
     case WM_NCDESTROY: {
         // With its owner.
@@ -226,14 +228,16 @@ LRESULT ColorPalette::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 // --- painting
 
-void ColorPalette::paint(CDC& dc) {
-    const SavedDC saved(&dc);
+void ColorPalette::paint(CDC* pDC) {
+    if (!pDC)
+        return;
+    const SavedDC saved(pDC);
     CRect rcClient;
     ::GetClientRect(m_hWnd, &rcClient);
-    dc.FillSolidRect(&rcClient, ::GetSysColor(COLOR_BTNFACE));
+    pDC->FillSolidRect(&rcClient, ::GetSysColor(COLOR_BTNFACE));
     for (int i = 0; i < m_grid.count(); ++i)
-        if (dc.RectVisible(m_grid.cell(i)))
-            paintCell(dc, i);
+        if (pDC->RectVisible(m_grid.cell(i)))
+            paintCell(*pDC, i);
 }
 
 // From outside to inside: the hover mark, the selection's frame, the colour in its frame.

@@ -34,8 +34,9 @@ public:
 private:
     bool open();
     void hover(int nCell);
-    void paint(CDC& dc);
+    void paint(CDC* pDC); // null: nothing
     void paintCell(CDC& dc, int nCell);
+    TOOLINFO tipTool() const;
     void showTip();
     // Both end this object.
     void choose(int nCell);

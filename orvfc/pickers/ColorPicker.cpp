@@ -54,10 +54,6 @@ void CColorPicker::SetColor(COLORREF cr) {
     ::SetWindowText(m_hWndBuddy, str);
 }
 
-void CColorPicker::Choose(COLORREF cr) {
-    SetColor(cr);
-}
-
 void CColorPicker::ChooseOwn() {
     const HWND hWnd = m_hWnd;
     CColorDialog dialog(m_crColor, CC_FULLOPEN, this);

@@ -59,8 +59,7 @@ protected:
 
 private:
     friend class orv::ColorPalette;
-    // The palette has closed: a colour of the set, or the question for one's own.
-    void Choose(COLORREF cr);
+    // By the system's dialog, when the palette has closed.
     void ChooseOwn();
     BOOL OnKey(UINT nKey);
 

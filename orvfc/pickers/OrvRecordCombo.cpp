@@ -115,9 +115,11 @@ COrvCmbRecord* COrvRecordCombo::TakeRecord(int nIndex) {
 }
 
 COrvCmbRecord* COrvRecordCombo::GetRecord(int nIndex) const {
-    if (!m_hWnd || nIndex < 0 || nIndex >= GetCount())
+    if (!m_hWnd || nIndex < 0)
         return NULL;
-    return static_cast<COrvCmbRecord*>(GetItemDataPtr(nIndex));
+    // Lists of thousands are walked by this: one message a row.
+    void* const pData = GetItemDataPtr(nIndex);
+    return pData == reinterpret_cast<void*>(CB_ERR) ? NULL : static_cast<COrvCmbRecord*>(pData);
 }
 
 void COrvRecordCombo::DeleteOwnRow() {
@@ -175,7 +177,7 @@ void COrvRecordCombo::DrawRecord(COrvCmbRecord& record, CDC* pDC, const CRect& r
 }
 
 void COrvRecordCombo::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    lpMeasureItemStruct->itemHeight = RowHeight();
+    lpMeasureItemStruct->itemHeight = static_cast<UINT>(m_nRowHeight);
 }
 
 void COrvRecordCombo::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) {

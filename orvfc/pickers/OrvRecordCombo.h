@@ -50,6 +50,7 @@ public:
 
     // An item without record draws nothing; without item (the empty field) the background alone is drawn.
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
+    // The constructor's height; attaching and WM_SETFONT make rows fit a higher font.
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
 

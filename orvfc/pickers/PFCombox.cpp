@@ -100,8 +100,10 @@ int CBrushFigureCmb::SetCurrentStyle(int nType) {
         [nType](const CCmbBrushFigureData& record) { return record.m_nType == nType; });
     if (nItem < 0 && m_hWnd) {
         LOGBRUSH brush;
-        CString strName = orv::brushFigure(nType, 0, brush);
-        if (strName.IsEmpty())
+        CString strName;
+        if (CCmbBrushFigureData(nType, "", 0).CreateBrushByType(brush))
+            strName = orv::brushFigure(nType, 0, brush);
+        else
             strName.Format(_T("自定义图案 %d "), nType);
         nItem = AddItem(nType, strName, 0);
     }

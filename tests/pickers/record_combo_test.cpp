@@ -63,6 +63,13 @@ TEST_F(RecordCombo, HeightsAreSetHoweverItIsAttached) {
     CString text;
     created.GetLBText(1, text);
     EXPECT_STREQ("绿色", text) << "what a screen reader reads";
+    CFont high;
+    high.CreateFont(-40, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, NULL);
+    created.SetFont(&high);
+    EXPECT_GE(created.GetItemHeight(0), 40);
+    MEASUREITEMSTRUCT item = {};
+    created.MeasureItem(&item);
+    EXPECT_EQ(18u, item.itemHeight) << "of whatever font";
 }
 
 TEST_F(RecordCombo, RecordsGoWithTheirItems) {
