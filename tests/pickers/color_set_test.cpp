@@ -6,9 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "linestyle/stored.h"
-
-#include <string>
+#include "afx/afx_test.h"
 
 using namespace orv::test;
 
@@ -71,11 +69,11 @@ TEST(ColorSet, Lookups) {
 
 TEST(ColorSet, Rows) {
     ColorSetStruct row("青色", 0xFF8000);
-    EXPECT_EQ("04 C7 E0 C9 AB 00 80 FF 00 ", hexOf(store(row)));
+    EXPECT_EQ("04 C7 E0 C9 AB 00 80 FF 00", toHex(serialized(row)));
     ColorSetStruct loaded("前", 1);
-    EXPECT_EQ(CArchiveException::endOfFile, load(loaded, store(row).substr(0, 7)));
+    EXPECT_EQ(CArchiveException::endOfFile, deserialized(loaded, serialized(row).substr(0, 7)));
     EXPECT_TRUE(loaded == ColorSetStruct("前", 1));
-    EXPECT_EQ(0, load(loaded, store(row)));
+    EXPECT_EQ(0, deserialized(loaded, serialized(row)));
     EXPECT_TRUE(loaded == row);
     loaded.init("青色", 0xFF8001);
     EXPECT_FALSE(loaded == row);
