@@ -123,7 +123,7 @@ public:
         MoveWindow(r->left, r->top, r->right - r->left, r->bottom - r->top, bRepaint);
     }
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
-        return ::SetWindowPos(m_hWnd, pWndInsertAfter->GetSafeHwnd(), x, y, cx, cy, nFlags);
+        return ::SetWindowPos(m_hWnd, HandleOf(pWndInsertAfter), x, y, cx, cy, nFlags);
     }
     void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
     // Over pAlternateOwner or the owner, inside the work area.
@@ -136,7 +136,7 @@ public:
     void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const {
-        ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), lpPoint, nCount);
+        ::MapWindowPoints(m_hWnd, HandleOf(pwndTo), lpPoint, nCount);
     }
     void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const {
         MapWindowPoints(pwndTo, reinterpret_cast<LPPOINT>(lpRect), 2);
@@ -157,12 +157,13 @@ public:
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, NULL, bErase); }
     void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
     void InvalidateRgn(CRgn* pRgn, BOOL bErase = TRUE) {
-        ::InvalidateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()), bErase);
+        ::InvalidateRgn(m_hWnd, pRgn ? static_cast<HRGN>(pRgn->m_hObject) : NULL, bErase);
     }
     void ValidateRect(LPCRECT lpRect) { ::ValidateRect(m_hWnd, lpRect); }
     BOOL RedrawWindow(LPCRECT lpRectUpdate = NULL, CRgn* prgnUpdate = NULL,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE) {
-        return ::RedrawWindow(m_hWnd, lpRectUpdate, static_cast<HRGN>(prgnUpdate->GetSafeHandle()), flags);
+        return ::RedrawWindow(m_hWnd, lpRectUpdate,
+                              prgnUpdate ? static_cast<HRGN>(prgnUpdate->m_hObject) : NULL, flags);
     }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
@@ -208,18 +209,16 @@ public:
     // --- relatives
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetAncestor(UINT gaFlags) const { return FromHandle(::GetAncestor(m_hWnd, gaFlags)); }
-    CWnd* SetParent(CWnd* pWndNewParent) {
-        return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd()));
-    }
+    CWnd* SetParent(CWnd* pWndNewParent) { return FromHandle(::SetParent(m_hWnd, HandleOf(pWndNewParent))); }
     // Who gets this window's notifications; the parent when none was set.
     CWnd* GetOwner() const;
-    void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd->GetSafeHwnd(); }
+    void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = HandleOf(pOwnerWnd); }
     CWnd* GetTopLevelParent() const;
     CFrameWnd* GetParentFrame() const;
     CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
     CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
-    BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd->GetSafeHwnd()); }
+    BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, HandleOf(pWnd)); }
     static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName) {
         return FromHandle(::FindWindowA(lpszClassName, lpszWindowName));
     }
@@ -255,7 +254,7 @@ public:
         return ::SendDlgItemMessageA(m_hWnd, nID, message, wParam, lParam);
     }
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const {
-        return FromHandle(::GetNextDlgTabItem(m_hWnd, pWndCtl->GetSafeHwnd(), bPrevious));
+        return FromHandle(::GetNextDlgTabItem(m_hWnd, HandleOf(pWndCtl), bPrevious));
     }
 
     // --- scrolling
@@ -399,6 +398,8 @@ protected:
 
 private:
     explicit CWnd(HWND hWnd) : m_hWnd(hWnd) {}
+    // GetSafeHwnd would have the compiler warn of a null this where a host writes NULL.
+    static HWND HandleOf(const CWnd* pWnd) { return pWnd ? pWnd->m_hWnd : NULL; }
     void TakeProcedure();
     void ReturnProcedure();
     BOOL m_bWide = FALSE;    // the way m_pfnSuper is to be called
