@@ -16,6 +16,8 @@ bool isOnTop(HWND parent, WNDPROC procedure) {
     return ::GetWindowLongPtrW(parent, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(procedure);
 }
 
+// The wide functions, for a narrow subclass turns typed Chinese into question marks. A parent with a narrow
+// procedure gets it back as it was.
 WNDPROC setProcedure(HWND parent, WNDPROC procedure) {
     return reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
@@ -23,6 +25,28 @@ WNDPROC setProcedure(HWND parent, WNDPROC procedure) {
 
 CResizeCtrl* controlFrom(HANDLE owner) {
     return owner == &goneMark ? NULL : static_cast<CResizeCtrl*>(owner);
+}
+
+// Whether the parent's background is seen in a child: group boxes, transparent windows, and texts and buttons
+// that the parent gives a hollow brush.
+bool isSeenThrough(HWND child, HWND parent, HDC dc) {
+    char name[8] = "";
+    ::GetClassNameA(child, name, sizeof(name));
+    const bool isButton = lstrcmpiA(name, "Button") == 0;
+    if ((isButton && (::GetWindowLongPtrW(child, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX) ||
+        (::GetWindowLongPtrW(child, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0) {
+        return true;
+    }
+    if (!isButton && lstrcmpiA(name, "Static") != 0) {
+        return false;
+    }
+    LOGBRUSH brush = {};
+    const int saved = ::SaveDC(dc);
+    const LRESULT given = ::SendMessageW(parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+                                         reinterpret_cast<LPARAM>(child));
+    ::RestoreDC(dc, saved);
+    return ::GetObjectA(reinterpret_cast<HGDIOBJ>(given), sizeof(brush), &brush) != 0 &&
+           brush.lbStyle == BS_NULL;
 }
 
 // The procedure that a gone control left on the window.
@@ -220,28 +244,28 @@ BOOL CResizeCtrl::OnNcHitTest(WPARAM, LPARAM lParam, LRESULT& result) {
 }
 
 // The parent's background leaves out the children that cover theirs: no child is wiped before it paints.
-// Group boxes and transparent windows show the parent through.
 BOOL CResizeCtrl::OnEraseBkgnd(WPARAM wParam, LPARAM lParam, LRESULT& result) {
     const HDC dc = reinterpret_cast<HDC>(wParam);
     if (::WindowFromDC(dc) != m_hParent) {
         return FALSE; // a picture of the parent, in which the children may not come
     }
+    const HWND parent = m_hParent;
     const int saved = ::SaveDC(dc);
-    for (const auto& entry : m_pEntries->entries) {
-        char name[8] = "";
-        ::GetClassNameA(entry.child, name, sizeof(name));
-        const LONG_PTR style = ::GetWindowLongPtrW(entry.child, GWL_STYLE);
-        const bool isGroup = lstrcmpiA(name, "Button") == 0 && (style & BS_TYPEMASK) == BS_GROUPBOX;
-        if ((style & WS_VISIBLE) == 0 || isGroup || ::GetAncestor(entry.child, GA_PARENT) != m_hParent ||
-            (::GetWindowLongPtrW(entry.child, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0) {
+    // The parent is asked for brushes meanwhile: the control may be gone.
+    for (size_t i = 0; orv::resizeControlOf(parent) == this && i < m_pEntries->entries.size(); ++i) {
+        const HWND child = m_pEntries->entries[i].child;
+        if ((::GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE) == 0 ||
+            ::GetAncestor(child, GA_PARENT) != parent || isSeenThrough(child, parent, dc)) {
             continue;
         }
         CRect rect;
-        ::GetWindowRect(entry.child, &rect);
-        ::MapWindowPoints(NULL, m_hParent, reinterpret_cast<POINT*>(&rect), 2);
+        ::GetWindowRect(child, &rect);
+        ::MapWindowPoints(NULL, parent, reinterpret_cast<POINT*>(&rect), 2);
         ::ExcludeClipRect(dc, rect.left, rect.top, rect.right, rect.bottom);
     }
-    PassOn(WM_ERASEBKGND, wParam, lParam, result);
+    if (orv::resizeControlOf(parent) == this) {
+        PassOn(WM_ERASEBKGND, wParam, lParam, result);
+    }
     ::RestoreDC(dc, saved);
     return TRUE;
 }

@@ -23,9 +23,13 @@ constexpr char property[] = "___CResizeCtrl___Class___";
 std::vector<HWND> painted;
 int lastMessages = 0;
 std::function<void(UINT)> onChildMessage;
+bool givesHollowBrushes = false;
 
 LRESULT CALLBACK parentProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     lastMessages += message == WM_NCDESTROY;
+    if (message == WM_CTLCOLORSTATIC && givesHollowBrushes) {
+        return reinterpret_cast<LRESULT>(::GetStockObject(HOLLOW_BRUSH));
+    }
     return message == WM_USER ? 77 : ::DefWindowProcA(hWnd, message, wParam, lParam);
 }
 
@@ -327,13 +331,38 @@ TEST(ResizeCtrl, AStepPaintsEachChildOnce) {
         EXPECT_EQ(count, painted.size());
         EXPECT_EQ(count, std::set<HWND>(painted.begin(), painted.end()).size());
     }
-    // What a child has painted is not wiped by the parent's background.
-    const HWND child = painted.front();
-    const HDC dc = ::GetDC(child);
-    ::SetPixel(dc, 2, 2, RGB(255, 0, 0));
-    ::RedrawWindow(parent.window, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_ERASENOW | RDW_NOCHILDREN);
-    EXPECT_EQ(RGB(255, 0, 0), ::GetPixel(dc, 2, 2));
-    ::ReleaseDC(child, dc);
+}
+
+TEST(ResizeCtrl, TheParentWipesOnlyWhatShowsItThrough) {
+    Parent parent(WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+    CResizeCtrl control(parent.window);
+    const struct {
+        const char* name; // NULL: a window of the host's own
+        DWORD style;
+        bool hollow, wiped;
+    } rows[] = {
+        {NULL, 0, false, false},
+        {"STATIC", 0, false, false},
+        {"BUTTON", BS_PUSHBUTTON, false, false},
+        {"STATIC", 0, true, true},
+        {"BUTTON", BS_AUTOCHECKBOX, true, true},
+        {"EDIT", 0, true, false},
+        {"BUTTON", BS_GROUPBOX, false, true},
+    };
+    for (const auto& row : rows) {
+        givesHollowBrushes = row.hollow;
+        const HWND child = parent.child({10, 10, 60, 40}, 0, row.name, row.style);
+        ASSERT_TRUE(control.Add(child, 0, 0, 0, 0));
+        ::RedrawWindow(parent.window, NULL, NULL, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        const HDC dc = ::GetDC(child);
+        ::SetPixel(dc, 2, 25, RGB(255, 0, 0));
+        ::RedrawWindow(parent.window, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_ERASENOW | RDW_NOCHILDREN);
+        EXPECT_EQ(row.wiped ? ::GetSysColor(COLOR_BTNFACE) : RGB(255, 0, 0), ::GetPixel(dc, 2, 25))
+            << (row.name != NULL ? row.name : "own") << row.style << row.hollow;
+        ::ReleaseDC(child, dc);
+        ::DestroyWindow(child);
+    }
+    givesHollowBrushes = false;
 }
 
 TEST(ResizeCtrl, ADropDownComboKeepsItsList) {
