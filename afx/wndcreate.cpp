@@ -20,8 +20,14 @@ LRESULT CALLBACK creationFilter(int code, WPARAM wParam, LPARAM lParam) {
     if (code != HCBT_CREATEWND || !state.making || (::GetClassLongA(window, GCL_STYLE) & CS_IME))
         return ::CallNextHookEx(state.makingHook, code, wParam, lParam);
     CWnd* object = state.making;
+    // Other hooks see every window too, and may refuse it. What they make themselves is not the object's.
     state.making = NULL;
+    const LRESULT refused = ::CallNextHookEx(state.makingHook, code, wParam, lParam);
     removeHook(state);
+    if (refused) {
+        state.making = object;
+        return refused;
+    }
     try {
         OrvWndAccess::take(object, window);
         return 0;

@@ -109,6 +109,36 @@ TEST(Lifetime, OnlyTheFirstWindowMadeIsTaken) {
     ::DestroyWindow(object.inner);
 }
 
+TEST(Lifetime, OtherHooksSeeTheWindowsOfObjects) {
+    static int seen;
+    static LRESULT answer;
+    seen = 0;
+    const HHOOK hook = ::SetWindowsHookExA(
+        WH_CBT,
+        [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
+            // The system makes windows of its own meanwhile.
+            char name[5] = "";
+            ::GetClassNameA(reinterpret_cast<HWND>(wParam), name, sizeof name);
+            if (code != HCBT_CREATEWND || strcmp(name, "Afx:") != 0)
+                return ::CallNextHookEx(NULL, code, wParam, lParam);
+            ++seen;
+            return answer;
+        },
+        NULL, ::GetCurrentThreadId());
+    ASSERT_NE(nullptr, hook);
+    ends = 0;
+    for (LRESULT refuses : {0, 1}) {
+        answer = refuses;
+        CCountedWnd object;
+        EXPECT_EQ(refuses == 0, object.Make() != FALSE);
+        EXPECT_EQ(refuses == 0, object.m_hWnd != NULL);
+        object.DestroyWindow();
+    }
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(2, seen);
+    EXPECT_EQ(2, ends);
+}
+
 TEST(Lifetime, FailedCreationEndsTheObjectOnce) {
     class CRefusing : public CCountedWnd {
     public:
