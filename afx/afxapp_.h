@@ -5,6 +5,10 @@
 #include "afxwnd_.h"
 
 // The thread with its message pump.
+//
+// What a PreTranslateMessage or OnIdle throws is no handler's: it leaves the loop to who called Run or
+// DoModal. A modal dialog or sheet has no window any more then and may be opened again; one that a handler
+// opened ends there, traced.
 class ORVAFX_API CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
 

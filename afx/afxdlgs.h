@@ -42,7 +42,7 @@ public:
     virtual void OnReset() { OnCancel(); }
     void OnOK() override {}
     void OnCancel() override {}
-    // 0: on to the next page, -1: stay, else the page's template number.
+    // 0: on to the next page, -1: stay, else the template number of the page to go to (none such: stay).
     virtual LRESULT OnWizardBack() { return 0; }
     virtual LRESULT OnWizardNext() { return 0; }
     virtual BOOL OnWizardFinish() { return TRUE; }
@@ -53,6 +53,7 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
+    LRESULT MapWizardResult(LRESULT lToMap);
 
 private:
     friend class CPropertySheet;

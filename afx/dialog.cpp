@@ -75,12 +75,13 @@ OwnerDisabled::OwnerDisabled(HWND owner)
         ::EnableWindow(owner_, FALSE);
 }
 
-void OwnerDisabled::giveBack(HWND dialog) {
+void OwnerDisabled::end(CWnd* dialog) {
+    OrvWndAccess::endModal(dialog);
     if (disabled_)
         ::EnableWindow(owner_, TRUE);
-    disabled_ = false;
-    if (owner_ && dialog && ::GetActiveWindow() == dialog)
+    if (owner_ && dialog->m_hWnd && ::GetActiveWindow() == dialog->m_hWnd)
         ::SetActiveWindow(owner_);
+    dialog->DestroyWindow();
 }
 
 } // namespace orvafx
@@ -101,15 +102,16 @@ int CDialog::RunOver(HWND hWndOwner, LPCDLGTEMPLATE lpTemplate, HINSTANCE hInst)
     m_nModalResult = -1;
     // EndDialog may be called while the dialog is made.
     m_nFlags |= WF_CONTINUEMODAL;
-    if (CreateDlgIndirect(lpTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
-        if (m_nFlags & WF_CONTINUEMODAL)
+    try {
+        if (CreateDlgIndirect(lpTemplate, CWnd::FromHandle(hWndOwner), hInst) &&
+            (m_nFlags & WF_CONTINUEMODAL))
             RunModalLoop((GetStyle() & DS_NOIDLEMSG) ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
+    } catch (...) {
+        // From a PreTranslateMessage; it is DoModal's caller's.
+        disabled.end(this);
+        throw;
     }
-    m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL);
-    // The owner is enabled and active again before the dialog goes: or the system would first look for
-    // another program's window to activate.
-    disabled.giveBack(m_hWnd);
-    DestroyWindow();
+    disabled.end(this);
     return m_nModalResult;
 }
 

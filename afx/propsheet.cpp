@@ -56,6 +56,7 @@ struct OrvPageAccess {
             TRACE("CPropertySheet: a page has no template\n");
             return NULL;
         }
+        page.m_psp.pResource = dialogTemplate;
         const PROPSHEETPAGEA& psp = page.m_psp;
         PROPSHEETPAGEW w = {};
         std::wstring title;
@@ -173,10 +174,10 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
         *pResult = !OnQueryCancel();
         break;
     case PSN_WIZBACK:
-        *pResult = OnWizardBack();
+        *pResult = MapWizardResult(OnWizardBack());
         break;
     case PSN_WIZNEXT:
-        *pResult = OnWizardNext();
+        *pResult = MapWizardResult(OnWizardNext());
         break;
     case PSN_WIZFINISH:
         *pResult = !OnWizardFinish();
@@ -185,6 +186,20 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
         return FALSE;
     }
     return TRUE;
+}
+
+// The system's sheet gets its pages as templates in memory, and knows them by these instead of by a number.
+LRESULT CPropertyPage::MapWizardResult(LRESULT lToMap) {
+    if (lToMap == 0 || lToMap == -1)
+        return lToMap;
+    CPropertySheet* sheet = GetParentSheet();
+    for (int i = 0; sheet && i < sheet->GetPageCount(); ++i) {
+        const CPropertyPage* page = sheet->GetPage(i);
+        if (reinterpret_cast<LRESULT>(page->m_lpszTemplateName) == lToMap)
+            return reinterpret_cast<LRESULT>(page->m_psp.pResource);
+    }
+    TRACE("CPropertyPage: the wizard has no page %d\n", static_cast<int>(lToMap));
+    return -1;
 }
 
 // --- the sheet
@@ -240,7 +255,7 @@ void CPropertySheet::RemovePage(int nPage) {
 }
 
 BOOL CPropertySheet::MakeSheet(HWND hWndOwner) {
-    if (m_hWnd || m_pages.IsEmpty())
+    if (m_pages.IsEmpty())
         return FALSE;
     std::vector<HPROPSHEETPAGE> pages;
     for (int i = 0; i < GetPageCount(); ++i)
@@ -276,6 +291,9 @@ BOOL CPropertySheet::MakeSheet(HWND hWndOwner) {
 }
 
 INT_PTR CPropertySheet::DoModal() {
+    ASSERT(m_hWnd == NULL);
+    if (m_hWnd)
+        return -1;
     const HWND owner = orvafx::modalOwner(m_pParentWnd);
     m_bModeless = FALSE;
     m_bInitialised = FALSE;
@@ -286,16 +304,25 @@ INT_PTR CPropertySheet::DoModal() {
 
 int CPropertySheet::RunOver(HWND hWndOwner) {
     orvafx::OwnerDisabled disabled(hWndOwner);
-    if (!MakeSheet(hWndOwner))
-        return -1;
-    m_nFlags |= WF_CONTINUEMODAL;
-    const int result = RunModalLoop(MLF_SHOWONIDLE);
-    disabled.giveBack(m_hWnd);
-    DestroyWindow();
+    int result = -1;
+    try {
+        if (MakeSheet(hWndOwner)) {
+            m_nFlags |= WF_CONTINUEMODAL;
+            result = RunModalLoop(MLF_SHOWONIDLE);
+        }
+    } catch (...) {
+        // From a PreTranslateMessage or OnInitDialog; it is DoModal's caller's.
+        disabled.end(this);
+        throw;
+    }
+    disabled.end(this);
     return result;
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
+    ASSERT(m_hWnd == NULL);
+    if (m_hWnd)
+        return FALSE;
     m_bModeless = TRUE;
     m_bInitialised = FALSE;
     if (!MakeSheet(pParentWnd->GetSafeHwnd()))

@@ -21,18 +21,16 @@ bool isIdleMessage(const MSG& message) {
 }
 
 BOOL preTranslate(MSG* message) {
-    CWnd* main = AfxGetMainWnd();
-    const HWND mainWindow = main->GetSafeHwnd();
+    const HWND mainWindow = AfxGetMainWnd()->GetSafeHwnd();
+    HWND top = message->hwnd;
+    while (HWND parent = top && top != mainWindow ? ::GetParent(top) : NULL)
+        top = parent;
     if (CWnd::WalkPreTranslateTree(mainWindow, message))
         return TRUE;
     // A window beside the main one's tree: the main window's accelerators hold there too, but for dialogs,
-    // which keep their keys.
-    main = AfxGetMainWnd();
-    if (!main || !message->hwnd)
-        return FALSE;
-    const CWnd* top = CWnd::FromHandlePermanent(message->hwnd);
-    HWND root = top ? top->GetTopLevelParent()->GetSafeHwnd() : ::GetAncestor(message->hwnd, GA_ROOT);
-    return root != mainWindow && main->PreTranslateMessage(message);
+    // which keep their keys. In the tree it has been asked.
+    CWnd* main = AfxGetMainWnd();
+    return main && top && top != mainWindow && main->PreTranslateMessage(message);
 }
 
 BOOL pump(MSG& message) {
@@ -148,7 +146,11 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             UpdateWindow();
         }
     };
-    m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
+    struct Running {
+        explicit Running(UINT& f) : flags(f) { flags |= WF_MODALLOOP | WF_CONTINUEMODAL; }
+        ~Running() { flags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL); }
+        UINT& flags;
+    } running(m_nFlags);
     bool idle = true;
     LONG idleCount = 0;
     while (ContinueModal()) {
@@ -172,7 +174,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             if (!AfxPumpMessage()) {
                 const MSG& quit = thread ? thread->m_msgCur : orvafx::threadState().pumped;
                 AfxPostQuitMessage(static_cast<int>(quit.wParam));
-                m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
                 return -1;
             }
             MSG& current = thread ? thread->m_msgCur : orvafx::threadState().pumped;
@@ -182,7 +183,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             }
         } while (ContinueModal() && ::PeekMessageW(&waiting, NULL, 0, 0, PM_NOREMOVE));
     }
-    m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
     return m_nModalResult;
 }
 

@@ -9,6 +9,7 @@ struct OrvWndAccess {
     // Attaches the object and puts its procedure before the window's own.
     static void take(CWnd* object, HWND hWnd);
     static bool isModal(const CWnd* object) { return (object->m_nFlags & WF_CONTINUEMODAL) != 0; }
+    static void endModal(CWnd* object) { object->m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL); }
     static void postNcDestroy(CWnd* object) { object->PostNcDestroy(); }
     static void endModalLoop(CWnd* object, int result) { object->EndModalLoop(result); }
 };
@@ -41,15 +42,15 @@ LRESULT swallowException(const MSG& message);
 // The top-level window that a modal dialog disables: the parent's, or without one the program's.
 HWND modalOwner(CWnd* parent);
 
-// While it lives the owner takes no input.
+// The owner takes no input until the dialog has ended.
 class OwnerDisabled {
 public:
     explicit OwnerDisabled(HWND owner);
-    ~OwnerDisabled() { giveBack(NULL); }
     OwnerDisabled(const OwnerDisabled&) = delete;
     OwnerDisabled& operator=(const OwnerDisabled&) = delete;
-    // The owner is enabled, and active when the dialog was.
-    void giveBack(HWND dialog);
+    // Leaves the dialog without a window. The owner is enabled before, and active when the dialog was: or the
+    // system would first look for another program's window to activate.
+    void end(CWnd* dialog);
 
 private:
     HWND owner_;

@@ -254,6 +254,130 @@ TEST(Sheet, ModelessItEndsWithItsButtons) {
     EXPECT_EQ(-1, empty.DoModal());
 }
 
+// --- a wizard
+
+class CWizardPage : public CIdlePage {
+public:
+    CWizardPage(UINT nIDTemplate, DWORD dwButtons) : CIdlePage(nIDTemplate), m_dwButtons(dwButtons) {}
+    DWORD m_dwButtons;
+    LRESULT m_answer = 0; // to the next button
+
+    BOOL OnSetActive() override {
+        GetParentSheet()->SetWizardButtons(m_dwButtons);
+        return CIdlePage::OnSetActive();
+    }
+    LRESULT OnWizardBack() override { return m_answer; }
+    LRESULT OnWizardNext() override { return m_answer; }
+    BOOL OnWizardFinish() override { return m_answer == 0; }
+};
+
+TEST(Sheet, AWizardGoesWhereItsPagesSay) {
+    const struct {
+        int button;
+        LRESULT answer;
+        int page; // where it is then
+    } steps[] = {
+        {ID_WIZNEXT, -1, 0},         {ID_WIZNEXT, 0, 1},
+        {ID_WIZBACK, 0, 0},          {ID_WIZNEXT, 9999, 0}, // no such page
+        {ID_WIZNEXT, IDD_FIELDS, 2},                        // over the second
+        {ID_WIZBACK, -1, 2},         {ID_WIZFINISH, 1, 2},  // refused
+        {ID_WIZFINISH, 0, -1},
+    };
+    CWizardPage first(IDD_EMPTY, PSWIZB_NEXT), second(IDD_EMPTY, PSWIZB_BACK | PSWIZB_NEXT),
+        third(IDD_FIELDS, PSWIZB_BACK | PSWIZB_FINISH);
+    CIdleSheet sheet("向导");
+    for (CWizardPage* page : {&first, &second, &third})
+        sheet.AddPage(page);
+    sheet.SetWizardMode();
+    EXPECT_TRUE(sheet.IsWizard());
+    size_t step = 0;
+    auto press = [](CIdleSheet& s, int button) {
+        CWnd* window = s.GetDlgItem(button);
+        EXPECT_TRUE(window->IsWindowVisible() && window->IsWindowEnabled()) << button;
+        window->SendMessage(BM_CLICK);
+    };
+    sheet.m_idle = [&](CIdleSheet& s) {
+        if (step >= std::size(steps)) {
+            s.EndDialog(-2); // the last one should have closed it
+            return;
+        }
+        const auto& [button, answer, page] = steps[step++];
+        EXPECT_EQ(s.GetActiveIndex() != 0, s.GetDlgItem(ID_WIZBACK)->IsWindowEnabled() != 0) << step;
+        static_cast<CWizardPage*>(s.GetActivePage())->m_answer = answer;
+        press(s, button);
+        if (page >= 0)
+            EXPECT_EQ(page, s.GetActiveIndex()) << step;
+        s.PostMessage(WM_NULL);
+    };
+    EXPECT_EQ(ID_WIZFINISH, sheet.DoModal());
+    EXPECT_EQ(std::size(steps), step);
+    EXPECT_EQ(2, first.m_nSet);
+    EXPECT_EQ(1, second.m_nSet);
+    EXPECT_EQ(1, third.m_nSet);
+
+    sheet.m_idle = [&](CIdleSheet& s) { press(s, IDCANCEL); };
+    EXPECT_EQ(IDCANCEL, sheet.DoModal());
+    EXPECT_EQ(1, first.m_nReset);
+}
+
+// --- exceptions and the loops
+
+class CThrowingEdit : public CEdit {
+public:
+    bool m_bThrow = true;
+    BOOL PreTranslateMessage(MSG* pMsg) override {
+        if (pMsg->message == WM_KEYDOWN && m_bThrow)
+            AfxThrowResourceException();
+        return FALSE;
+    }
+};
+
+// Opens a dialog, or a sheet with one page, in the handler of a message.
+class COpeningWnd : public CHiddenWnd {
+public:
+    std::function<INT_PTR()> m_open;
+
+protected:
+    afx_msg LRESULT OnOpen(WPARAM, LPARAM) { return m_open(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(COpeningWnd, CWnd)
+ON_MESSAGE(WM_USER, &COpeningWnd::OnOpen)
+END_MESSAGE_MAP()
+
+TEST(Dialog, WhatPreTranslateMessageThrowsEndsTheLoopAndTheWindow) {
+    orv::test::DebugEvents events;
+    COpeningWnd parent;
+    ASSERT_TRUE(parent.Make());
+    CThrowingEdit edit;
+    CIdleDlg dialog(IDD_FIELDS, &parent);
+    dialog.m_init = [&](CIdleDlg& d) { edit.SubclassDlgItem(IDC_EDIT, &d); };
+    dialog.m_idle = [&](CIdleDlg&) { edit.PostMessage(WM_KEYDOWN, VK_ESCAPE, 1); };
+    CIdlePage page(IDD_FIELDS);
+    CIdleSheet sheet("表单");
+    sheet.AddPage(&page);
+    sheet.m_idle = [&](CIdleSheet&) {
+        if (!edit.m_hWnd)
+            edit.SubclassDlgItem(IDC_EDIT, &page);
+        edit.PostMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+    };
+    const std::function<INT_PTR()> opens[] = {[&] { return dialog.DoModal(); },
+                                              [&] { return sheet.DoModal(); }};
+    for (const auto& open : opens) {
+        edit.m_bThrow = true;
+        parent.m_open = open;
+        EXPECT_EQ(0, parent.SendMessage(WM_USER)) << "traced where the dialog was opened";
+        EXPECT_NE(std::string::npos, events.text().find("CResourceException left the handler"));
+        EXPECT_TRUE(parent.IsWindowEnabled());
+        EXPECT_EQ(NULL, dialog.m_hWnd);
+        EXPECT_EQ(NULL, sheet.m_hWnd);
+        EXPECT_EQ(NULL, edit.m_hWnd);
+        edit.m_bThrow = false;
+        EXPECT_EQ(IDCANCEL, parent.SendMessage(WM_USER)) << "and it can be opened again";
+    }
+}
+
 // --- the program's loop
 
 TEST(Pump, RunsUntilItsMainWindowGoes) {
@@ -263,6 +387,36 @@ TEST(Pump, RunsUntilItsMainWindowGoes) {
     frame->PostMessage(WM_CLOSE);
     EXPECT_EQ(0, theApp.Run());
     EXPECT_EQ(NULL, theApp.m_pMainWnd);
+}
+
+TEST(Pump, EachWindowIsAskedAboutAMessageOnce) {
+    class CAskedFrame : public CFrameWnd {
+    public:
+        BOOL PreTranslateMessage(MSG*) override {
+            ++asked;
+            return FALSE;
+        }
+        int asked = 0;
+    };
+    auto* frame = new CAskedFrame;
+    ASSERT_TRUE(frame->Create(NULL, "主窗口"));
+    theApp.m_pMainWnd = frame;
+    CHiddenWnd owned, beside;
+    ASSERT_TRUE(owned.Make(frame) && beside.Make());
+    for (CWnd* window :
+         {static_cast<CWnd*>(frame), static_cast<CWnd*>(&owned), static_cast<CWnd*>(&beside)}) {
+        // A control that has no object, and one that has.
+        const HWND plain =
+            ::CreateWindowExA(0, "EDIT", "", WS_CHILD, 0, 0, 9, 9, window->m_hWnd, NULL, NULL, NULL);
+        for (HWND control : {plain, window->m_hWnd}) {
+            frame->asked = 0;
+            MSG key = {control, WM_KEYDOWN, VK_F4, 1, 0, {}};
+            EXPECT_FALSE(AfxPreTranslateMessage(&key));
+            EXPECT_EQ(1, frame->asked);
+        }
+    }
+    theApp.m_pMainWnd = NULL;
+    frame->DestroyWindow();
 }
 
 TEST(Pump, IdleTimeEmptiesTheMapsOfTemporaryObjects) {
