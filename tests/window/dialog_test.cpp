@@ -305,8 +305,9 @@ TEST(Sheet, AWizardGoesWhereItsPagesSay) {
         EXPECT_EQ(s.GetActiveIndex() != 0, s.GetDlgItem(ID_WIZBACK)->IsWindowEnabled() != 0) << step;
         static_cast<CWizardPage*>(s.GetActivePage())->m_answer = answer;
         press(s, button);
-        if (page >= 0)
+        if (page >= 0) {
             EXPECT_EQ(page, s.GetActiveIndex()) << step;
+        }
         s.PostMessage(WM_NULL);
     };
     EXPECT_EQ(ID_WIZFINISH, sheet.DoModal());
