@@ -9,7 +9,7 @@ execute_process(COMMAND ${RUN} ${PROGRAM} "Z:${WORK}" COMMAND_ERROR_IS_FATAL ANY
 
 file(GLOB samples ${WORK}/*.bmp)
 list(LENGTH samples count)
-if(count LESS 24)
+if(count LESS 32)
   message(FATAL_ERROR "only ${count} samples were written")
 endif()
 

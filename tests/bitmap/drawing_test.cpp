@@ -100,18 +100,15 @@ TEST(BitmapDrawing, TurnedInTheHostsCoordinates) {
 TEST(BitmapDrawing, TopDownAndRunsAreTheRightWayUp) {
     Paper paper(20, 10), turned(20, 10);
     COrvDib down, runs;
-    Bytes file = pictureFile(depths()[5], 4, 2);
-    const LONG height = -2;
-    memcpy(&file[22], &height, 4);
-    ASSERT_TRUE(readBytes(down, file));
+    ASSERT_TRUE(readBytes(down, pictureFile(depths()[5], 4, -2)));
     ASSERT_TRUE(readBytes(runs, runsFile()));
     down.Draw(&paper.dc, CPoint(0, 0), CSize(4, 2));
     down.Draw(&turned.dc, CPoint(0, 0), CSize(4, 2), 0);
     runs.Draw(&paper.dc, CPoint(10, 0), CSize(4, 2));
     runs.Draw(&turned.dc, CPoint(10, 0), CSize(4, 2), 0);
     for (Paper* one : {&paper, &turned}) {
-        EXPECT_EQ(pictureColor(depths()[5], 3, 1), one->at(3, 0)); // the file's rows from the top down
-        EXPECT_EQ(pictureColor(depths()[5], 3, 0), one->at(3, 1));
+        EXPECT_EQ(pictureColor(depths()[5], 3, 0), one->at(3, 0));
+        EXPECT_EQ(pictureColor(depths()[5], 3, 1), one->at(3, 1));
         EXPECT_EQ(tableEntry(3), one->at(10, 0));
         EXPECT_EQ(tableEntry(5), one->at(11, 0));
         EXPECT_EQ(tableEntry(9), one->at(10, 1));

@@ -69,17 +69,18 @@ Bytes pictureFile(const Depth& depth, int width, int height) {
                             .bitCount = depth.bitCount,
                             .compression = depth.compression,
                             .masks = depth.masks});
-    const size_t stride = strideOf(width, depth.bitCount), start = bytes.size() - stride * height;
+    const int lines = abs(height);
+    const size_t stride = strideOf(width, depth.bitCount), start = bytes.size() - stride * lines;
     for (int i = 0; depth.bitCount <= 8 && i < 16 && i < 1 << depth.bitCount; ++i) {
         const RGBQUAD color = {GetBValue(palette[i]), GetGValue(palette[i]), GetRValue(palette[i]), 0};
         memcpy(&bytes[54 + 4 * i], &color, 4);
     }
     // Every byte is set: what the rows are filled up with as well.
     std::fill(bytes.begin() + start, bytes.end(), BYTE(0));
-    for (int y = 0; y < height; ++y) {
+    for (int y = 0; y < lines; ++y) {
         for (int x = 0; x < width; ++x) {
             const size_t bit = size_t(x) * depth.bitCount;
-            BYTE* at = &bytes[start + stride * (height - 1 - y) + bit / 8];
+            BYTE* at = &bytes[start + stride * (height < 0 ? y : lines - 1 - y) + bit / 8];
             const DWORD value = depth.bitCount <= 8 ? DWORD(indexAt(depth.bitCount, x, y))
                                                     : packed(depth, pictureColor(depth, x, y));
             if (depth.bitCount < 8)
@@ -128,7 +129,7 @@ void expectPicture(const COrvDib& dib, const Depth& depth, int width, int height
 
 Bytes runsFile() {
     const Bytes runs = {4, 9, 0, 0, 1, 3, 3, 5, 0, 1};
-    return makeFile({.width = 4, .height = 2, .compression = BI_RLE8, .sizeImage = 10, .runs = runs});
+    return makeFile({.width = 4, .height = 2, .compression = BI_RLE8, .runs = runs});
 }
 
 COLORREF tableEntry(int i) {

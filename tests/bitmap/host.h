@@ -25,7 +25,8 @@ struct Depth {
 };
 const std::vector<Depth>& depths();
 
-// A picture of that depth, each pixel of which the next function tells; top row first.
+// A picture of that depth, each pixel of which the next function tells; y counts from the top, and rows of a
+// negative height are stored from there on.
 Bytes pictureFile(const Depth& depth, int width, int height);
 COLORREF pictureColor(const Depth& depth, int x, int y);
 BOOL readBytes(COrvDib& dib, const Bytes& bytes);

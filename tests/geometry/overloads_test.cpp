@@ -122,29 +122,26 @@ TEST(Overloads, Sizes) {
 TEST(Overloads, RectanglesFromWhateverAHostHas) {
     const CPosition a(1, 2), b(3, 5);
     const DOURECT plain{1, 2, 3, 5};
-    const Ltrb expected(1, 2, 3, 5);
-    EXPECT_EQ(Ltrb(CDouRect(1, 2, 3, 5)), expected);
-    EXPECT_EQ(Ltrb(CDouRect(plain)), expected);
-    EXPECT_EQ(Ltrb(CDouRect(&plain)), expected);
-    EXPECT_EQ(Ltrb(CDouRect(a, b)), expected);
-    EXPECT_EQ(Ltrb(CDouRect(a, CDouSize(2, 3))), expected);
-    EXPECT_EQ(Ltrb(CDouRect(DOUPOINT{1, 2}, DOUSIZE{2, 3})), expected);
-    EXPECT_EQ(Ltrb(CDouRect(CRect(1, 2, 3, 5))), expected);
-    CDouRect r;
-    r = plain;
-    EXPECT_EQ(Ltrb(r), expected);
-    r.Init();
-    r = CRect(1, 2, 3, 5);
-    EXPECT_EQ(Ltrb(r), expected);
-    r.Init();
-    r.SetRect(a, b);
-    EXPECT_EQ(Ltrb(r), expected);
-    r.SetRectEmpty();
-    r.SetRect(1, 2, 3, 5);
-    EXPECT_EQ(Ltrb(r), expected);
-    r.Init();
-    r.CopyRect(&plain);
-    EXPECT_EQ(Ltrb(r), expected);
+    CDouRect assigned, fromWhole, byPoints, bySides, copied;
+    assigned = plain;
+    fromWhole = CRect(1, 2, 3, 5);
+    byPoints.SetRect(a, b);
+    bySides.SetRect(1, 2, 3, 5);
+    copied.CopyRect(&plain);
+    const CDouRect all[] = {CDouRect(1, 2, 3, 5),
+                            CDouRect(plain),
+                            CDouRect(&plain),
+                            CDouRect(a, b),
+                            CDouRect(a, CDouSize(2, 3)),
+                            CDouRect(DOUPOINT{1, 2}, DOUSIZE{2, 3}),
+                            CDouRect(CRect(1, 2, 3, 5)),
+                            assigned,
+                            fromWhole,
+                            byPoints,
+                            bySides,
+                            copied};
+    for (const CDouRect& r : all)
+        EXPECT_EQ(Ltrb(r), Ltrb(1, 2, 3, 5)) << "form " << &r - all;
 }
 
 TEST(Overloads, InflateInAllForms) {

@@ -36,76 +36,44 @@ struct Ruler {
     }
 };
 
-struct Point {
-    double x, y;
-};
-
 struct WalkRow {
     const char* name;
-    Ruler ruler;
-    std::vector<Point> to; // from (0, 0)
-    const char* log;
-    int result; // of the last segment
-    int index;
-    Point current;
+    double piece, gap;
+    const char* to;  // the ends of the segments from (0, 0) on
+    const char* log; // the pieces; behind them result of the last segment, index, current point
+    int drawType = 1, refused = -1;
 };
 
 const WalkRow walkRows[] = {
-    {"two pieces and a part", {{18, 5}}, {{30, 0}}, "0:0,0-18,0 1:18,0-23,0 2:23,0-30,0 ", 1, 2, {30, 0}},
-    {"short of a piece", {{18, 5}}, {{10, 0}}, "0:0,0-10,0 ", 1, 0, {10, 0}},
-    {"a piece bends at a vertex",
-     {{18, 5}},
-     {{10, 0}, {10, 20}},
-     "0:0,0-10,0 0:10,0-10,8 1:10,8-10,13 2:10,13-10,20 ",
-     1,
-     2,
-     {10, 20}},
-    {"exactly one piece, then the next without length",
-     {{18, 5}},
-     {{18, 0}},
-     "0:0,0-18,0 1:18,0-18,0 ",
-     1,
-     1,
-     {18, 0}},
-    {"slanted", {{5, 10}}, {{6, 8}}, "0:0,0-3,4 1:3,4-6,8 ", 1, 1, {6, 8}},
-    {"another draw type leaves the rest of the segment",
-     {{10, 10}, 0},
-     {{15, 0}, {10, 15}},
-     "0:0,0-10,0 1:10,0-10,10 ",
-     1,
-     2,
-     {10, 10}},
-    {"a refused piece", {{5, 5}, 1, 1}, {{20, 0}}, "0:0,0-5,0 1:5,0-10,0 ", 0, 1, {10, 0}},
-    {"a refused part", {{5, 5}, 1, 1}, {{7, 0}}, "0:0,0-5,0 1:5,0-7,0 ", 0, 1, {5, 0}},
-    {"no length at all", {{18, 5}}, {{0, 0}}, "0:0,0-0,0 ", 1, 0, {0, 0}},
-    {"a gap of no length",
-     {{4, 0}},
-     {{10, 0}},
-     "0:0,0-4,0 1:4,0-4,0 2:4,0-8,0 3:8,0-8,0 4:8,0-10,0 ",
-     1,
-     4,
-     {10, 0}},
-    {"negative piece", {{5, -1}}, {{20, 0}}, "0:0,0-5,0 ", 0, 1, {5, 0}},
-    {"piece that is not a number", {{5, kNaN}}, {{20, 0}}, "0:0,0-5,0 ", 0, 1, {5, 0}},
-    {"endless piece", {{kInf}}, {{20, 0}}, "0:0,0-20,0 ", 1, 0, {20, 0}},
-    {"to infinity", {{5}}, {{kInf, 0}}, "", 0, 0, {0, 0}},
-    {"to nowhere", {{5}}, {{kNaN, 0}}, "", 0, 0, {0, 0}},
+    {"two pieces and a part", 18, 5, "30,0", "0:0,0-18,0 1:18,0-23,0 2:23,0-30,0 = 1 2 30,0"},
+    {"short of a piece", 18, 5, "10,0", "0:0,0-10,0 = 1 0 10,0"},
+    {"a piece bends at a vertex", 18, 5, "10,0 10,20",
+     "0:0,0-10,0 0:10,0-10,8 1:10,8-10,13 2:10,13-10,20 = 1 2 10,20"},
+    {"exactly one piece, then the next without length", 18, 5, "18,0", "0:0,0-18,0 1:18,0-18,0 = 1 1 18,0"},
+    {"slanted", 5, 10, "6,8", "0:0,0-3,4 1:3,4-6,8 = 1 1 6,8"},
+    {"another draw type leaves the rest of the segment", 10, 10, "15,0 10,15",
+     "0:0,0-10,0 1:10,0-10,10 = 1 2 10,10", 0},
+    {"a refused piece", 5, 5, "20,0", "0:0,0-5,0 1:5,0-10,0 = 0 1 10,0", 1, 1},
+    {"a refused part", 5, 5, "7,0", "0:0,0-5,0 1:5,0-7,0 = 0 1 5,0", 1, 1},
+    {"no length at all", 18, 5, "0,0", "0:0,0-0,0 = 1 0 0,0"},
+    {"a gap of no length", 4, 0, "10,0", "0:0,0-4,0 1:4,0-4,0 2:4,0-8,0 3:8,0-8,0 4:8,0-10,0 = 1 4 10,0"},
+    {"negative piece", 5, -1, "20,0", "0:0,0-5,0 = 0 1 5,0"},
+    {"piece that is not a number", 5, kNaN, "20,0", "0:0,0-5,0 = 0 1 5,0"},
+    {"endless piece", kInf, 0, "20,0", "0:0,0-20,0 = 1 0 20,0"},
+    {"to infinity", 5, 5, "inf,0", "= 0 0 0,0"},
+    {"to nowhere", 5, 5, "nan,0", "= 0 0 0,0"},
 };
 
 TEST(Walk, CutsSegmentsIntoPieces) {
     for (const WalkRow& row : walkRows) {
-        SCOPED_TRACE(row.name);
-        Ruler ruler = row.ruler;
-        Point current = {0, 0};
-        int index = 0;
-        int result = -1;
-        for (const Point& to : row.to)
-            result = orv::walkSegment(ruler, current.x, current.y, index, to.x, to.y);
-        EXPECT_EQ(row.log, ruler.log);
-        EXPECT_EQ(row.result, result);
-        EXPECT_EQ(row.index, index);
-        EXPECT_DOUBLE_EQ(row.current.x, current.x);
-        EXPECT_DOUBLE_EQ(row.current.y, current.y);
+        Ruler ruler = {{row.piece, row.gap}, row.drawType, row.refused};
+        double x = 0, y = 0, toX, toY;
+        int index = 0, result = -1, used;
+        for (const char* to = row.to; sscanf(to, "%lf,%lf%n", &toX, &toY, &used) == 2; to += used)
+            result = orv::walkSegment(ruler, x, y, index, toX, toY);
+        char end[100];
+        snprintf(end, sizeof(end), "= %d %d %g,%g", result, index, x, y);
+        EXPECT_EQ(row.log, ruler.log + end) << row.name;
     }
 }
 

@@ -36,17 +36,6 @@ TEST(DrawText, LinesStandAcrossTheAngle) {
         }
 }
 
-TEST(DrawText, CentredTenNarrowerStartsFiveFurther) {
-    for (const double angle : {0.0, 90 * kDegree}) {
-        Block block(0, angle);
-        block.LSetRowAlign(1);
-        const LONG width = Ruler(block).width("北京") + 10;
-        block.LSetFPRect(CFPRect(100, 200, 100 + width, 300, angle));
-        EXPECT_EQ(Seen{angle == 0 ? textLine(105, 200, "北京") : textLine(100, 195, "北京", 900)},
-                  drawn(block, "北京"));
-    }
-}
-
 TEST(DrawText, AFixedRowHeightSpacesLines) {
     Block block;
     block.LSetSingleRowHeight(30);

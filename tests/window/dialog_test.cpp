@@ -9,11 +9,25 @@
 
 namespace {
 
-// Runs a function each time the dialog's loop is idle.
-class CIdleDlg : public CDialog {
+// Runs a function each time the window's loop is idle.
+template <class Self, class Base>
+class CIdle : public Base {
 public:
-    explicit CIdleDlg(UINT nIDTemplate = IDD_EMPTY, CWnd* pParent = NULL) : CDialog(nIDTemplate, pParent) {}
-    std::function<void(CIdleDlg&)> m_idle;
+    using Base::Base;
+    std::function<void(Self&)> m_idle;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message != WM_KICKIDLE)
+            return Base::WindowProc(message, wParam, lParam);
+        m_idle(static_cast<Self&>(*this));
+        return 0;
+    }
+};
+
+class CIdleDlg : public CIdle<CIdleDlg, CDialog> {
+public:
+    explicit CIdleDlg(UINT nIDTemplate = IDD_EMPTY, CWnd* pParent = NULL) : CIdle(nIDTemplate, pParent) {}
     std::function<void(CIdleDlg&)> m_init;
 
     BOOL OnInitDialog() override {
@@ -22,18 +36,7 @@ public:
             m_init(*this);
         return TRUE;
     }
-
-protected:
-    afx_msg LRESULT OnKickIdle(WPARAM, LPARAM) {
-        m_idle(*this);
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(CIdleDlg, CDialog)
-ON_MESSAGE(WM_KICKIDLE, &CIdleDlg::OnKickIdle)
-END_MESSAGE_MAP()
 
 TEST(Dialog, AnswersWhatEndsIt) {
     CHiddenWnd parent;
@@ -174,22 +177,10 @@ public:
     void OnCancel() override { ++m_nReset; }
 };
 
-class CIdleSheet : public CPropertySheet {
+class CIdleSheet : public CIdle<CIdleSheet, CPropertySheet> {
 public:
-    explicit CIdleSheet(LPCTSTR pszCaption) : CPropertySheet(pszCaption) {}
-    std::function<void(CIdleSheet&)> m_idle;
-
-protected:
-    afx_msg LRESULT OnKickIdle(WPARAM, LPARAM) {
-        m_idle(*this);
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
+    using CIdle::CIdle;
 };
-
-BEGIN_MESSAGE_MAP(CIdleSheet, CPropertySheet)
-ON_MESSAGE(WM_KICKIDLE, &CIdleSheet::OnKickIdle)
-END_MESSAGE_MAP()
 
 TEST(Sheet, PagesAreMadeLeftAndConfirmed) {
     CIdlePage first(IDD_FIELDS), second(IDD_EMPTY);

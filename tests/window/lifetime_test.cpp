@@ -182,6 +182,11 @@ LRESULT CALLBACK strangersProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lPara
     return ::CallWindowProcW(before, hWnd, nMsg, wParam, lParam);
 }
 
+void subclassByStranger(HWND window) {
+    ::SetPropA(window, "before", reinterpret_cast<HANDLE>(::GetWindowLongPtrW(window, GWLP_WNDPROC)));
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(strangersProc));
+}
+
 TEST(Lifetime, SubclassingIsUndoneInAnyOrder) {
     HWND window = ::CreateWindowExA(0, "EDIT", "文", WS_POPUP, 0, 0, 50, 20, NULL, NULL, NULL, NULL);
     CEdit edit, second;
@@ -190,51 +195,46 @@ TEST(Lifetime, SubclassingIsUndoneInAnyOrder) {
     ASSERT_TRUE(edit.SubclassWindow(window));
     EXPECT_TRUE(::IsWindowUnicode(window)) << "typed characters of every kind";
     EXPECT_FALSE(second.SubclassWindow(window)) << "one object a window";
-    // Somebody subclasses on top; taking ourselves out leaves him in place, and he goes on calling through
-    // us.
-    ::SetPropA(window, "before", reinterpret_cast<HANDLE>(::GetWindowLongPtrW(window, GWLP_WNDPROC)));
-    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(strangersProc));
+    // Somebody subclasses on top, and goes on calling through us.
+    subclassByStranger(window);
     CString text;
     edit.GetWindowText(text);
     EXPECT_STREQ("文", text);
     EXPECT_EQ(44, ::SendMessageA(window, WM_USER + 1, 0, 0));
     ::DestroyWindow(window);
     EXPECT_EQ(NULL, edit.m_hWnd);
-
-    window = ::CreateWindowExA(0, "EDIT", "字", WS_POPUP, 0, 0, 50, 20, NULL, NULL, NULL, NULL);
-    ASSERT_TRUE(edit.SubclassWindow(window));
-    EXPECT_EQ(window, edit.UnsubclassWindow());
-    EXPECT_EQ(NULL, edit.m_hWnd);
-    char direct[8] = "";
-    ::GetWindowTextA(window, direct, 8);
-    EXPECT_STREQ("字", direct) << "the control's own procedure is back";
-    ::DestroyWindow(window);
 }
 
 TEST(Lifetime, AControlWorksOnWithoutItsObject) {
-    for (bool stranger : {false, true}) {
+    const struct {
+        const char* name;
+        bool stranger, detach;
+    } rows[] = {{"unsubclassed", false, false}, {"under a stranger", true, false}, {"detached", false, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
         HWND window = ::CreateWindowExA(0, "EDIT", "", WS_POPUP, 0, 0, 50, 20, NULL, NULL, NULL, NULL);
+        const LONG_PTR procedure = ::GetWindowLongPtrW(window, GWLP_WNDPROC);
         CEdit edit, next;
         ASSERT_TRUE(edit.SubclassWindow(window));
-        if (stranger) {
-            ::SetPropA(window, "before", reinterpret_cast<HANDLE>(::GetWindowLongPtrW(window, GWLP_WNDPROC)));
-            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(strangersProc));
-        }
-        EXPECT_EQ(window, stranger ? edit.UnsubclassWindow() : edit.Detach());
+        if (row.stranger)
+            subclassByStranger(window);
+        EXPECT_EQ(window, row.detach ? edit.Detach() : edit.UnsubclassWindow());
+        EXPECT_EQ(NULL, edit.m_hWnd);
+        EXPECT_EQ(!row.stranger && !row.detach, procedure == ::GetWindowLongPtrW(window, GWLP_WNDPROC));
         char text[8] = "";
         ::SetWindowTextA(window, "文");
-        EXPECT_EQ(1, ::SendMessageA(window, EM_GETLINECOUNT, 0, 0)) << stranger;
+        EXPECT_EQ(1, ::SendMessageA(window, EM_GETLINECOUNT, 0, 0));
         ::GetWindowTextA(window, text, 8);
-        EXPECT_STREQ("文", text) << stranger;
+        EXPECT_STREQ("文", text);
         // Another object takes it over and gets in nobody's way.
-        ASSERT_TRUE(stranger ? next.SubclassWindow(window) : next.Attach(window));
+        ASSERT_TRUE(row.detach ? next.Attach(window) : next.SubclassWindow(window));
         next.SetSel(0, -1);
         next.ReplaceSel("字");
         CString replaced;
         next.GetWindowText(replaced);
-        EXPECT_STREQ("字", replaced) << stranger;
+        EXPECT_STREQ("字", replaced);
         ::DestroyWindow(window);
-        EXPECT_EQ(NULL, next.m_hWnd) << stranger;
+        EXPECT_EQ(NULL, next.m_hWnd);
     }
 }
 
@@ -369,6 +369,12 @@ struct Census {
     bool operator==(const Census&) const = default;
 };
 
+BOOL CALLBACK countWindow(HWND window, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    ::EnumChildWindows(window, countWindow, count);
+    return TRUE;
+}
+
 Census census() {
     AfxLockTempMaps();
     AfxUnlockTempMaps();
@@ -376,20 +382,7 @@ Census census() {
     while (::PeekMessageW(&message, NULL, 0, 0, PM_REMOVE))
         ::DispatchMessageW(&message);
     Census c;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM lParam) -> BOOL {
-            ++*reinterpret_cast<int*>(lParam);
-            ::EnumChildWindows(
-                window,
-                [](HWND, LPARAM inner) -> BOOL {
-                    ++*reinterpret_cast<int*>(inner);
-                    return TRUE;
-                },
-                lParam);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&c.windows));
+    ::EnumThreadWindows(::GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&c.windows));
     c.gdi = orv::test::liveGdiHandles();
     c.heap = orv::test::heapUse();
     return c;
