@@ -33,6 +33,42 @@ inline HWND fieldOf(const CComboBox& combo) {
     return info.hwndItem;
 }
 
+using Pixels = std::vector<COLORREF>;
+inline const CRect kRow(0, 0, 120, 18);
+
+inline Pixels drawn(const std::function<void(CDC&)>& draw) {
+    Picture picture(kRow.Width(), kRow.Height());
+    draw(picture.dc);
+    Pixels pixels;
+    for (int y = 0; y < kRow.Height(); ++y)
+        for (int x = 0; x < kRow.Width(); ++x)
+            pixels.push_back(picture.at(x, y));
+    return pixels;
+}
+
+inline Pixels drawn(COrvCmbRecord& row) {
+    return drawn([&](CDC& dc) { row.DrawItem(&dc, kRow, 0); });
+}
+
+// A row with this text, in the device context's own font where no face is given.
+inline Pixels drawnText(int left, const std::string& text, const char* face = NULL) {
+    return drawn([&](CDC& dc) {
+        LOGFONT lf = {};
+        dc.GetCurrentFont()->GetLogFont(&lf);
+        lf.lfCharSet = DEFAULT_CHARSET;
+        strcpy_s(lf.lfFaceName, face ? face : "");
+        CFont font;
+        font.CreateFontIndirect(&lf);
+        dc.FillSolidRect(&kRow, ::GetSysColor(COLOR_WINDOW));
+        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        CFont* const old = face ? dc.SelectObject(&font) : NULL;
+        CRect place(left, 0, kRow.right, kRow.bottom);
+        dc.DrawText(text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+        if (old)
+            dc.SelectObject(old);
+    });
+}
+
 class FontPickers : public testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(dialog.open()); }
