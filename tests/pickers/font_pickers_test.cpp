@@ -81,9 +81,10 @@ TEST_F(FontPickers, ValuesThatNoRowHoldsAreShownAllTheSame) {
     EXPECT_TRUE(spaces.SetCurrentDist(3.5));
     EXPECT_EQ(0, spaces.GetCurSel());
     spaces.ResetContent();
-    spaces.AddItem(1);
+    for (const double dist : {1.0, 1.5}) // where the records of before were
+        spaces.AddItem(dist);
     EXPECT_TRUE(spaces.SetCurrentDist(2));
-    EXPECT_EQ("1.0磅|2.0磅", textsOf(spaces)) << "the row of before is gone, and only that";
+    EXPECT_EQ("1.0磅|1.5磅|2.0磅", textsOf(spaces)) << "the row of before is gone, and only that";
 
     CFontAlignCmb aligns;
     create(aligns, CBS_DROPDOWNLIST);

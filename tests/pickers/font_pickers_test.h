@@ -36,9 +36,19 @@ inline HWND fieldOf(const CComboBox& combo) {
 using Pixels = std::vector<COLORREF>;
 inline const CRect kRow(0, 0, 120, 18);
 
-inline Pixels drawn(const std::function<void(CDC&)>& draw) {
+// On a device context with the face as its font, or with the one that it has when new.
+inline Pixels drawn(const std::function<void(CDC&)>& draw, const char* face) {
     Picture picture(kRow.Width(), kRow.Height());
+    LOGFONT lf = {};
+    picture.dc.GetCurrentFont()->GetLogFont(&lf);
+    lf.lfCharSet = DEFAULT_CHARSET;
+    strcpy_s(lf.lfFaceName, face ? face : "");
+    CFont font;
+    font.CreateFontIndirect(&lf);
+    CFont* const old = face ? picture.dc.SelectObject(&font) : NULL;
     draw(picture.dc);
+    if (old)
+        picture.dc.SelectObject(old);
     Pixels pixels;
     for (int y = 0; y < kRow.Height(); ++y)
         for (int x = 0; x < kRow.Width(); ++x)
@@ -46,27 +56,19 @@ inline Pixels drawn(const std::function<void(CDC&)>& draw) {
     return pixels;
 }
 
-inline Pixels drawn(COrvCmbRecord& row) {
-    return drawn([&](CDC& dc) { row.DrawItem(&dc, kRow, 0); });
+inline Pixels drawn(COrvCmbRecord& row, const char* face = NULL) {
+    return drawn([&](CDC& dc) { row.DrawItem(&dc, kRow, 0); }, face);
 }
 
-// A row with this text, in the device context's own font where no face is given.
+// A row with this text from left on.
 inline Pixels drawnText(int left, const std::string& text, const char* face = NULL) {
-    return drawn([&](CDC& dc) {
-        LOGFONT lf = {};
-        dc.GetCurrentFont()->GetLogFont(&lf);
-        lf.lfCharSet = DEFAULT_CHARSET;
-        strcpy_s(lf.lfFaceName, face ? face : "");
-        CFont font;
-        font.CreateFontIndirect(&lf);
+    const auto draw = [&](CDC& dc) {
         dc.FillSolidRect(&kRow, ::GetSysColor(COLOR_WINDOW));
         dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-        CFont* const old = face ? dc.SelectObject(&font) : NULL;
         CRect place(left, 0, kRow.right, kRow.bottom);
         dc.DrawText(text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-        if (old)
-            dc.SelectObject(old);
-    });
+    };
+    return drawn(draw, face);
 }
 
 class FontPickers : public testing::Test {

@@ -95,7 +95,9 @@ TEST_F(TextPage, InASheetItAppliesAndAChoiceOfFaceDoesNotConfirm) {
     sheet.SetForegroundWindow();
     ASSERT_TRUE(pumpUntil([&] { return ::GetForegroundWindow() == sheet.m_hWnd; }));
     const HWND apply = ::GetDlgItem(sheet.m_hWnd, 0x3021);
-    EXPECT_FALSE(::IsWindowEnabled(apply));
+    MSG refresh = {page.m_hWnd, WM_COMMAND, 5, 0, 0, {}};
+    page.PreTranslateMessage(&refresh);
+    EXPECT_FALSE(::IsWindowEnabled(apply)) << "nothing has changed";
     focusOn(page, IDC_ORV_SIZE);
     pressKey(VK_DOWN);
     EXPECT_TRUE(pumpUntil([&] { return ::IsWindowEnabled(apply) != FALSE; }));
