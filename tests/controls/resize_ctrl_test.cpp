@@ -517,6 +517,10 @@ TEST(ResizeCtrl, StrangeMessagesDoNoHarm) {
         ::SendMessageA(parent.window, message, 0x12345, -1);
     }
     EXPECT_EQ("0 0 10 10", place(child));
+    ::RemovePropA(parent.window, property);
+    EXPECT_EQ(0, ::SendMessageA(parent.window, WM_USER, 0, 0)) << "nobody is known to pass it on to";
+    ::SetPropA(parent.window, property, &control);
+    EXPECT_EQ(77, ::SendMessageA(parent.window, WM_USER, 0, 0));
     ::SendMessageA(parent.window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(20400, 20300));
     EXPECT_EQ("20000 20000 10 10", place(child));
     ::SendMessageA(parent.window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(400, 300));
