@@ -132,8 +132,8 @@ public:
     // Milliseconds between two steps of a sliding folder; values outside 0 to 100 count as these.
     LONG GetAnimationTickCount() const { return m_nAnimationTickCount; }
     void SetAnimationTickCount(LONG nTickCount) { m_nAnimationTickCount = nTickCount; }
-    // Gets the click message and the context menu. It stays the host's, who takes it back (NULL) before the
-    // object ends; a window that is gone gets nothing.
+    // Gets the click message and the context menu (this window itself: only the clicks). It stays the
+    // host's, who takes it back (NULL) before the object ends; a window that is gone gets nothing.
     void SetNotifyWnd(CWnd* pNotifyWnd);
     CWnd* GetNotifyWnd() const { return m_pNotifyWnd; }
 
@@ -141,7 +141,8 @@ public:
     int AddFolder(const char* name, DWORD_PTR data = 0);
     // child is made a child of this window (WS_CHILD, no WS_POPUP) if it is none; it stays the host's object,
     // is shown while its folder is open and may be destroyed, or taken to another parent, at any time. It
-    // goes down with this window. NULL, or a window that holds this one: the folder stays empty.
+    // goes down with this window. NULL, one without a window yet, or one that holds this window: the folder
+    // stays empty.
     int AddFolderBar(const char* name, CWnd* child, DWORD_PTR data = 0);
     int AddFolder(const OUTBAR_INFO& info);
     // When the open one goes, the one behind it opens, or else the one before. A child window is hidden.

@@ -153,6 +153,11 @@ int OutBarLayout::wholeItems() const {
     return whole;
 }
 
+// An item higher than the view is passed when it is the first one shown.
+bool OutBarLayout::itemsBelow() const {
+    return scene_.firstItem + std::max(1, wholeItems()) < scene_.items;
+}
+
 int OutBarLayout::firstToShow(int item) const {
     if (item < 0 || item >= scene_.items)
         return 0;

@@ -72,7 +72,7 @@ public:
     // Items shown whole, from the first one on.
     int wholeItems() const;
     // There is more to scroll to.
-    bool itemsBelow() const { return scene_.firstItem < furthestFirst(); }
+    bool itemsBelow() const;
     // The first item that lets `item` be seen whole at the bottom, and the furthest one to scroll to.
     int firstToShow(int item) const;
     int furthestFirst() const { return firstToShow(scene_.items - 1); }
