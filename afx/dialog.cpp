@@ -1,3 +1,4 @@
+#include "msgdispatch.h"
 #include "wndcreate.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -145,17 +146,8 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    // Commands of the program, not notifications and buttons, go on to the owner and the application.
-    const bool command = nCode == CN_COMMAND || nCode == static_cast<int>(CN_UPDATE_COMMAND_UI);
-    if (!command || !(nID & 0x8000) || nID >= 0xF000)
-        return FALSE;
-    CWnd* owner = FromHandlePermanent(::GetParent(m_hWnd));
-    if (owner && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    CWinApp* app = AfxGetApp();
-    return app && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           orvafx::passDialogCommandOn(this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -188,6 +188,18 @@ BOOL callCommandHandler(CCmdTarget* target, const AFX_MSGMAP_ENTRY& entry, UINT 
     }
 }
 
+BOOL passDialogCommandOn(const CWnd* dialog, UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) {
+    const bool command = code == CN_COMMAND || code == static_cast<int>(CN_UPDATE_COMMAND_UI);
+    // Of the numbers only the program's own commands, neither controls nor the system's.
+    if (!command || !(id & 0x8000) || id >= 0xF000)
+        return FALSE;
+    CWnd* owner = CWnd::FromHandlePermanent(::GetParent(dialog->m_hWnd));
+    if (owner && owner->OnCmdMsg(id, code, extra, info))
+        return TRUE;
+    CWinApp* app = AfxGetApp();
+    return app && app->OnCmdMsg(id, code, extra, info);
+}
+
 bool wantsRecord(UINT_PTR sig) {
     switch (sig) {
     case AfxSig_i_c:

@@ -28,6 +28,9 @@ struct ControlColor {
 BOOL callCommandHandler(CCmdTarget* target, const AFX_MSGMAP_ENTRY& entry, UINT id, void* extra);
 // The handler reads a record behind lParam: without one it is not called.
 bool wantsRecord(UINT_PTR sig);
+// Where a dialog's or sheet's commands go that it has no handler for: to its owner and the application.
+// Notifications and buttons end with it.
+BOOL passDialogCommandOn(const CWnd* dialog, UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
 LRESULT callMessageHandler(CWnd* window, const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam);
 
 } // namespace orvafx

@@ -1,3 +1,4 @@
+#include "msgdispatch.h"
 #include "wndcreate.h"
 
 #include "afxdlgs.h"
@@ -402,16 +403,8 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CPropertySheet::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    const bool command = nCode == CN_COMMAND || nCode == static_cast<int>(CN_UPDATE_COMMAND_UI);
-    if (!command || !(nID & 0x8000) || nID >= 0xF000)
-        return FALSE;
-    CWnd* owner = FromHandlePermanent(::GetParent(m_hWnd));
-    if (owner && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    CWinApp* app = AfxGetApp();
-    return app && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           orvafx::passDialogCommandOn(this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 CTabCtrl* CPropertySheet::GetTabControl() const {
