@@ -223,7 +223,7 @@ TEST(LineTypeFile, SetsAreStoredAsObjects) {
     EXPECT_STREQ("N", loaded->m_strName);
 }
 
-TEST(MainManager, AsksItsSetsInOrder) {
+TEST(Manager, FindsPatternsByTypeUntilItIsEmptied) {
     COrvDrawManage set;
     EXPECT_EQ(NULL, set.GetDashFromType(1, 3, 0x0000FF));
     set.InitToGerApp();
