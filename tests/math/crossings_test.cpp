@@ -60,13 +60,16 @@ TEST(Crossings, AGapMadeByRoundingIsClosed) {
     const Crossings upright = crossSegments({0, 0.3}, {1, 0.3}, {0.5, 0.1 + 0.2}, {0.5, 1});
     EXPECT_EQ(upright.count, 1);
     EXPECT_EQ(upright.at[0].x, 0.5);
-    // An upright one whose end is a rounding error away from (1e7 / 3, 1e7 / 7) on a shallow slope.
-    const Point p = {1e7 / 3, 1e7 / 7};
-    const Crossings slope = crossSegments(p - Point{70, 0.7}, p + Point{30, 0.3}, p, p + Point{0, 5});
-    EXPECT_EQ(slope.count, 1);
-    EXPECT_NEAR(slope.at[0].x, p.x, 1e-6);
-    EXPECT_EQ(
-        crossSegments(p - Point{70, 0.7}, p + Point{30, 0.3}, p + Point{0, 1e-5}, p + Point{0, 5}).count, 0);
+    // An upright one whose end is a rounding error away from a point on a shallow slope.
+    for (const Point p : {Point{1e7 / 3, 1e7 / 7}, {1e7 / 3, 0.1}, {0.1, 1e7 / 7}, {-1e7 / 3, -1e7 / 7}}) {
+        SCOPED_TRACE(testing::Message() << p.x << ", " << p.y);
+        const Point from = p - Point{70, 0.7}, to = p + Point{30, 0.3};
+        const Crossings slope = crossSegments(from, to, p, p + Point{0, 5});
+        EXPECT_EQ(slope.count, 1);
+        EXPECT_NEAR(slope.at[0].x, p.x, 1e-6);
+        EXPECT_EQ(crossSegments(from, to, p + Point{0, 1e-5}, p + Point{0, 5}).count, 0);
+        EXPECT_EQ(crossSegments(p, p + Point{0, -5}, to, from).count, 1);
+    }
 }
 
 TEST(Crossings, NothingCrossesAtNoNumber) {
