@@ -1,23 +1,8 @@
 #include "out_bar_host.h"
 
-using namespace orv::test;
+#include "support/paper.h"
 
-std::vector<COLORREF> pixelsOf(CDC& dc, CPoint corner, CSize size) {
-    std::vector<COLORREF> pixels(static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy));
-    CDC memory;
-    CBitmap bitmap;
-    memory.CreateCompatibleDC(&dc);
-    bitmap.CreateCompatibleBitmap(&dc, size.cx, size.cy);
-    CBitmap* before = memory.SelectObject(&bitmap);
-    memory.BitBlt(0, 0, size.cx, size.cy, &dc, corner.x, corner.y, SRCCOPY);
-    memory.SelectObject(before);
-    BITMAPINFO info = {};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    ::GetDIBits(dc.m_hDC, bitmap, 0, static_cast<UINT>(size.cy), pixels.data(), &info, DIB_RGB_COLORS);
-    for (COLORREF& pixel : pixels)
-        pixel &= 0xFFFFFF; // the fourth byte is nobody's
-    return pixels;
-}
+using namespace orv::test;
 
 BEGIN_MESSAGE_MAP(CBarHost, CWnd)
 ON_REGISTERED_MESSAGE(WM_GFX_OUTBAR_LBUTTON_DOWN, &CBarHost::OnClick)
@@ -96,7 +81,9 @@ std::vector<COLORREF> CBarHost::shown() const {
     bar.GetClientRect(rect);
     const CPoint corner = toScreen(CPoint(0, 0));
     CWindowDC screen(NULL);
-    return pixelsOf(screen, corner, rect.Size());
+    Paper paper(rect.Width(), rect.Height());
+    paper.dc.BitBlt(0, 0, rect.Width(), rect.Height(), &screen, corner.x, corner.y, SRCCOPY);
+    return paper.pixels();
 }
 
 bool CBarHost::shows(int x, int y, COLORREF color) const {

@@ -27,9 +27,6 @@ protected:
     }
 };
 
-// Of part of a device context, row by row, as 0x00RRGGBB.
-std::vector<COLORREF> pixelsOf(CDC& dc, CPoint corner, CSize size);
-
 class CBarHost : public CWnd {
 public:
     CCountedBar bar;

@@ -2,23 +2,18 @@
 
 #include "out_bar_host.h"
 
+#include "support/paper.h"
+
 using namespace orv::test;
 
 namespace {
 
 std::vector<COLORREF> printed(CGfxOutBarCtrl& bar) {
-    CClientDC screen(&bar);
-    CDC dc;
-    CBitmap bitmap;
     CRect rect;
     bar.GetClientRect(rect);
-    dc.CreateCompatibleDC(&screen);
-    bitmap.CreateCompatibleBitmap(&screen, rect.Width(), rect.Height());
-    CBitmap* before = dc.SelectObject(&bitmap);
-    bar.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
-    const auto pixels = pixelsOf(dc, CPoint(0, 0), rect.Size());
-    dc.SelectObject(before);
-    return pixels;
+    Paper paper(rect.Width(), rect.Height());
+    bar.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(paper.dc.m_hDC), PRF_CLIENT);
+    return paper.pixels();
 }
 
 TEST_F(OutBar, ThePictureShowsWhatItHolds) {

@@ -189,12 +189,7 @@ TEST_F(ColorPicker, OwnColor) {
     for (const bool ok : {false, true}) {
         dialog.commands.clear();
         open();
-        const InDialogs user(dialog.m_hWnd, {{"", [&](HWND colors) {
-                                                  ::SetDlgItemInt(colors, 706, 1, FALSE);
-                                                  ::SetDlgItemInt(colors, 707, 2, FALSE);
-                                                  ::SetDlgItemInt(colors, 708, 3, FALSE);
-                                                  pressKey(ok ? VK_RETURN : VK_ESCAPE);
-                                              }}});
+        const InDialogs user(dialog.m_hWnd, {InDialogs::colors(1, 2, 3, ok ? VK_RETURN : VK_ESCAPE)});
         pressKey(VK_END);
         pressKey(VK_RETURN);
         EXPECT_TRUE(waitUntil([&] { return user.done() && ::IsWindowEnabled(dialog.m_hWnd); }));
@@ -211,14 +206,12 @@ TEST_F(ColorPicker, MarksAndCells) {
     pressKey(VK_RIGHT); // the mark of hovering goes on to 绿色
     CRect client;
     ::GetClientRect(palette, &client);
+    Picture picture(client.right, client.bottom);
     const auto marked = [&] {
-        Picture picture(client.right, client.bottom);
         ::SendMessage(palette, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc.m_hDC), PRF_CLIENT);
         return picture.at(4 + 3 * 20, 4) == ::GetSysColor(COLOR_HIGHLIGHT);
     };
     EXPECT_TRUE(waitUntil(marked));
-    Picture picture(client.right, client.bottom);
-    ::SendMessage(palette, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc.m_hDC), PRF_CLIENT);
     EXPECT_EQ(::GetSysColor(COLOR_BTNTEXT), picture.at(4 + 2 * 20 + 1, 5)) << "the selected one's frame";
     EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), picture.at(4 + 4 * 20 + 1, 5));
     const CColorSet colors;

@@ -177,7 +177,7 @@ TEST_F(FontPickers, FontsAreMadeForRowsInViewAndFreed) {
         }
     };
     // The most handles that a page of rows took, and those that all pages left.
-    const HWND list = listOf(combo);
+    const HWND list = partsOf(combo).hwndList;
     const auto scrollThrough = [&](int& most) {
         CRect rc;
         ::GetClientRect(list, &rc);
@@ -273,12 +273,12 @@ TEST_F(FontPickers, ThePlainPickerFillsItself) {
     item.rcItem = {0, 0, 100, 18};
     combo.DrawItem(&item);
     EXPECT_EQ(RGB(4, 4, 4), picture.at(50, 1)) << "no data: no name";
-    EXPECT_EQ(0, picture.inked(RGB(4, 4, 4), 0, 100).right & ~INT_MIN);
+    EXPECT_EQ(0, inked(picture, RGB(4, 4, 4), 0, 100).right & ~INT_MIN);
     item.itemData = reinterpret_cast<ULONG_PTR>(&lf);
     item.itemState = ODS_SELECTED;
     combo.DrawItem(&item);
     EXPECT_EQ(RGB(2, 2, 2), picture.at(50, 1));
-    EXPECT_LT(5, picture.inked(RGB(2, 2, 2), 0, 100).Width());
+    EXPECT_LT(5, inked(picture, RGB(2, 2, 2), 0, 100).Width());
 }
 
 TEST_F(FontPickers, ThePlainPickerKeepsFontsOnlyWhereItCan) {

@@ -27,10 +27,7 @@ inline std::string textOf(const CWnd& window) {
 }
 
 inline HWND fieldOf(const CComboBox& combo) {
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    combo.GetComboBoxInfo(&info);
-    return info.hwndItem;
+    return partsOf(combo).hwndItem;
 }
 
 using Pixels = std::vector<COLORREF>;
@@ -49,11 +46,7 @@ inline Pixels drawn(const std::function<void(CDC&)>& draw, const char* face) {
     draw(picture.dc);
     if (old)
         picture.dc.SelectObject(old);
-    Pixels pixels;
-    for (int y = 0; y < kRow.Height(); ++y)
-        for (int x = 0; x < kRow.Width(); ++x)
-            pixels.push_back(picture.at(x, y));
-    return pixels;
+    return picture.pixels();
 }
 
 inline Pixels drawn(COrvCmbRecord& row, const char* face = NULL) {

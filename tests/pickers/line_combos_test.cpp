@@ -30,6 +30,16 @@ protected:
     void attach(Combo& combo) {
         ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
     }
+    // The key chooses the custom row; the user goes through these dialogs, and the parent is told.
+    void ask(CWnd& combo, WORD key, const std::vector<InDialogs::Step>& steps) {
+        ASSERT_TRUE(focusOn(combo));
+        dialog.settle();
+        dialog.told.clear();
+        const InDialogs user(dialog.m_hWnd, steps);
+        pressKey(key);
+        EXPECT_TRUE(waitUntil([&] { return user.done() && dialog.told.size() == 2; }));
+    }
+    static void cancel(HWND) { pressKey(VK_ESCAPE); }
     CPickerDlg dialog;
 };
 
@@ -274,14 +284,8 @@ TEST_F(LineCombos, AskingForAWidth) {
          "25毫米"},
     };
     for (const auto& row : rows) {
-        ASSERT_TRUE(focusOn(combo));
-        dialog.settle();
-        dialog.told.clear();
-        {
-            const InDialogs user(dialog.m_hWnd, row.steps);
-            pressKey(VK_END);
-            EXPECT_TRUE(waitUntil([&] { return user.done() && dialog.told.size() == 2; })) << row.name;
-        }
+        SCOPED_TRACE(row.name);
+        ask(combo, VK_END, row.steps);
         EXPECT_EQ("CBN_SELCHANGE 1000; WM_LINE_WIDTH_CMB_SELCHANGE 1000 0; ", dialog.toldText());
         EXPECT_EQ(row.width, combo.GetCurrentWidth());
         EXPECT_STREQ(row.name, combo.GetCurrentWidthName());
@@ -296,26 +300,9 @@ TEST_F(LineCombos, AskingForAColor) {
     CColorSet set;
     combo.AddItem(&set);
     combo.SetCurSel(8); // the second 绿色
-    ASSERT_TRUE(focusOn(combo));
-    {
-        const InDialogs user(dialog.m_hWnd, {{"", [](HWND) { pressKey(VK_ESCAPE); }}});
-        pressKey(VK_END);
-        EXPECT_TRUE(waitUntil([&] { return user.done() && dialog.told.size() == 2; }));
-    }
+    ask(combo, VK_END, {{"", cancel}});
     EXPECT_EQ(0x008000u, combo.GetCurrentColor()) << "not the first of that name";
-    dialog.told.clear();
-    ASSERT_TRUE(focusOn(combo));
-    {
-        const InDialogs user(dialog.m_hWnd, {{"", [](HWND colors) {
-                                                  // The fields of red, green and blue: it is fully open.
-                                                  ::SetDlgItemInt(colors, 706, 18, FALSE);
-                                                  ::SetDlgItemInt(colors, 707, 52, FALSE);
-                                                  ::SetDlgItemInt(colors, 708, 86, FALSE);
-                                                  pressKey(VK_RETURN);
-                                              }}});
-        pressKey(VK_END);
-        EXPECT_TRUE(waitUntil([&] { return user.done() && dialog.told.size() == 2; }));
-    }
+    ask(combo, VK_END, {InDialogs::colors(18, 52, 86, VK_RETURN)});
     EXPECT_EQ(RGB(18, 52, 86), combo.GetCurrentColor());
     EXPECT_STREQ(" 18 , 52 , 86 ", combo.GetCurrentColorName());
     EXPECT_EQ(combo.GetCount() - 1, combo.GetCustColorIndex());
@@ -335,7 +322,7 @@ TEST_F(LineCombos, TheOpenListAsksWhenItIsClosed) {
         pressKey(VK_END);
         ASSERT_TRUE(waitUntil([&] { return combo.GetCurSel() == 19; }));
         EXPECT_TRUE(combo.GetDroppedState()) << "nobody is asked in passing";
-        const InDialogs user(dialog.m_hWnd, {{"", [](HWND) { pressKey(VK_ESCAPE); }}});
+        const InDialogs user(dialog.m_hWnd, {{"", cancel}});
         pressKey(accept ? VK_RETURN : VK_ESCAPE);
         EXPECT_TRUE(waitUntil([&] { return combo.GetCurSel() == 2; }));
         EXPECT_EQ(accept, user.done()) << "Esc leaves without a question";
@@ -357,10 +344,10 @@ TEST_F(LineCombos, AClickInTheOpenListCountsWhereverTheKeysStand) {
         pressKey(VK_END);
         ASSERT_TRUE(waitUntil([&] { return dialog.told.size() == 1; }));
         CRect row;
-        ::SendMessage(listOf(combo), LB_GETITEMRECT, static_cast<WPARAM>(clicked),
+        ::SendMessage(partsOf(combo).hwndList, LB_GETITEMRECT, static_cast<WPARAM>(clicked),
                       reinterpret_cast<LPARAM>(&row));
-        CWnd::FromHandle(listOf(combo))->ClientToScreen(&row);
-        const InDialogs user(dialog.m_hWnd, {{"", [](HWND) { pressKey(VK_ESCAPE); }}});
+        CWnd::FromHandle(partsOf(combo).hwndList)->ClientToScreen(&row);
+        const InDialogs user(dialog.m_hWnd, {{"", cancel}});
         clickAt(row.left + 10, row.CenterPoint().y);
         EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 3; }));
         dialog.settle();
@@ -375,12 +362,7 @@ TEST_F(LineCombos, TheCustomRowAlone) {
     CLineWidthCmb combo;
     attach(combo);
     combo.AddItem(1, "其它...");
-    ASSERT_TRUE(focusOn(combo));
-    {
-        const InDialogs user(dialog.m_hWnd, {{"输入数值", [](HWND) { pressKey(VK_ESCAPE); }}});
-        pressKey(VK_DOWN);
-        EXPECT_TRUE(waitUntil([&] { return user.done() && dialog.told.size() == 2; }));
-    }
+    ask(combo, VK_DOWN, {{"输入数值", cancel}});
     EXPECT_EQ(-1, combo.GetCurSel()) << "nothing stays selected";
 }
 
@@ -400,11 +382,7 @@ TEST_F(LineCombos, TheParentMayGoWhileTheUserIsAsked) {
     attach(combo);
     combo.AddItem(1, "其它...");
     combo.AddItem(2, "2");
-    ASSERT_TRUE(focusOn(combo));
-    dialog.told.clear();
-    const InDialogs again(dialog.m_hWnd, {{"输入数值", [](HWND) { pressKey(VK_ESCAPE); }}});
-    pressKey(VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return again.done() && dialog.told.size() == 2; }));
+    ask(combo, VK_DOWN, {{"输入数值", cancel}});
     EXPECT_EQ(0, combo.GetCurSel());
 }
 
@@ -418,7 +396,7 @@ TEST_F(LineCombos, NothingIsLeftOver) {
         style.SetCurrentStyle(1);
         style.ShowDropDown();
         style.RedrawWindow();
-        ::RedrawWindow(listOf(style), NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
+        ::RedrawWindow(partsOf(style).hwndList, NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
         CColorPicker picker;
         picker.Create("", WS_CHILD | WS_VISIBLE, CRect(210, 130, 300, 160), &dialog, 8);
         picker.RedrawWindow();

@@ -36,7 +36,7 @@ TEST(LineRecords, ColorRow) {
         EXPECT_EQ(back, picture.at(16, 16));
         for (int x = 0; state & ODS_SELECTED && x < 160; ++x)
             EXPECT_EQ(kFrame, picture.at(x, 0)) << "the name leaves the frame alone, at " << x;
-        const CRect name = picture.inked(back, 17, 158);
+        const CRect name = inked(picture, back, 17, 158);
         EXPECT_GE(name.left, 17 + (state & ODS_SELECTED ? 0 : 4));
         EXPECT_GT(name.right, 40);
     }
@@ -155,7 +155,7 @@ TEST(LineRecords, WidthBars) {
     for (const auto& row : rows) {
         Picture picture(180, 18);
         CCmbLineWidthData(row.width, "").DrawItem(&picture.dc, kRow, 0);
-        const CRect bar = picture.inked(sysColor(COLOR_WINDOW), 0, 160);
+        const CRect bar = inked(picture, sysColor(COLOR_WINDOW), 0, 160);
         EXPECT_EQ(row.height, bar.Height()) << row.width;
         EXPECT_EQ(2, bar.left);
         EXPECT_EQ(80, bar.right);

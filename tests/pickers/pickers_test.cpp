@@ -1,5 +1,7 @@
 #include "pickers_test.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 namespace orv::test {
@@ -84,11 +86,20 @@ bool InDialogs::done() const {
     return stepsLeft.empty();
 }
 
-HWND listOf(CComboBox& combo) {
+InDialogs::Step InDialogs::colors(int red, int green, int blue, WORD key) {
+    return {"", [=](HWND dialog) {
+                int field = 706;
+                for (const int value : {red, green, blue})
+                    ::SetDlgItemInt(dialog, field++, value, FALSE);
+                pressKey(key);
+            }};
+}
+
+COMBOBOXINFO partsOf(const CComboBox& combo) {
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
-    combo.GetComboBoxInfo(&info);
-    return info.hwndList;
+    EXPECT_TRUE(combo.GetComboBoxInfo(&info));
+    return info;
 }
 
 std::string textsOf(const CComboBox& combo) {
@@ -101,23 +112,11 @@ std::string textsOf(const CComboBox& combo) {
     return texts;
 }
 
-Picture::Picture(int width, int height) : m_size(width, height) {
-    CClientDC screen(NULL);
-    dc.CreateCompatibleDC(&screen);
-    m_bitmap.CreateCompatibleBitmap(&screen, width, height);
-    m_old = ::SelectObject(dc.m_hDC, m_bitmap.m_hObject);
-    dc.FillSolidRect(0, 0, width, height, RGB(1, 2, 3));
-}
-
-Picture::~Picture() {
-    ::SelectObject(dc.m_hDC, m_old);
-}
-
-CRect Picture::inked(COLORREF background, int left, int right) const {
+CRect inked(const Paper& paper, COLORREF background, int left, int right) {
     CRect box(INT_MAX, INT_MAX, INT_MIN, INT_MIN);
-    for (int y = 0; y < m_size.cy; ++y)
+    for (int y = 0; y < paper.height; ++y)
         for (int x = left; x < right; ++x)
-            if (at(x, y) != background)
+            if (paper.at(x, y) != background)
                 box.SetRect(std::min<int>(box.left, x), std::min<int>(box.top, y),
                             std::max<int>(box.right, x + 1), std::max<int>(box.bottom, y + 1));
     return box;

@@ -5,6 +5,7 @@
 #include <orvfc/ORVFC.h>
 
 #include "support/input.h"
+#include "support/paper.h"
 
 #include <functional>
 #include <string>
@@ -56,32 +57,23 @@ public:
     InDialogs(const InDialogs&) = delete;
     InDialogs& operator=(const InDialogs&) = delete;
     bool done() const;
+    // The system's dialog of colours, fully open: its fields are filled in and a key ends it.
+    static Step colors(int red, int green, int blue, WORD key);
 
 private:
     UINT_PTR m_timer;
 };
 
-// The list window of a combo.
-HWND listOf(CComboBox& combo);
+// The parts of a combo.
+COMBOBOXINFO partsOf(const CComboBox& combo);
 // What rows 0 to n - 1 are called, separated by bars.
 std::string textsOf(const CComboBox& combo);
 
-// A row drawn into memory.
-class Picture {
-public:
-    Picture(int width, int height);
-    ~Picture();
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
-    CDC dc;
-    COLORREF at(int x, int y) const { return dc.GetPixel(x, y); }
-    // Bounding box of the pixels that differ from the colour in the columns from left on.
-    CRect inked(COLORREF background, int left, int right) const;
-
-private:
-    CBitmap m_bitmap;
-    HGDIOBJ m_old;
-    CSize m_size;
+// What a row is drawn on: in no colour that a row has.
+struct Picture : Paper {
+    Picture(int w, int h) : Paper(w, h, RGB(1, 2, 3)) {}
 };
+// Bounding box of the pixels that differ from the colour in the columns from left on.
+CRect inked(const Paper& paper, COLORREF background, int left, int right);
 
 } // namespace orv::test

@@ -53,10 +53,8 @@ TEST_F(RecordCombo, HeightsAreSetHoweverItIsAttached) {
     for (CSampleCombo* combo : {&attached, &created}) {
         fill(*combo);
         EXPECT_EQ(18, combo->GetItemHeight(0));
-        COMBOBOXINFO info = {};
-        info.cbSize = sizeof info;
-        ASSERT_TRUE(combo->GetComboBoxInfo(&info));
-        EXPECT_LE(abs(CRect(info.rcItem).Height() - 18), 2) << "the field, with or without its border";
+        EXPECT_LE(abs(CRect(partsOf(*combo).rcItem).Height() - 18), 2)
+            << "the field, with or without its border";
     }
     EXPECT_EQ(DWORD(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS),
               created.GetStyle() & (CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS));
@@ -156,11 +154,8 @@ TEST_F(RecordCombo, ChoicesAreToldInOrder) {
     // By mouse, in the dropped list.
     pressKey(VK_F4);
     ASSERT_TRUE(waitUntil([&] { return combo.GetDroppedState(); }));
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    combo.GetComboBoxInfo(&info);
     CRect list;
-    ::GetWindowRect(info.hwndList, &list);
+    ::GetWindowRect(partsOf(combo).hwndList, &list);
     clickAt(list.left + 20, list.top + 1 + 2 * 18 + 9);
     EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 2; }));
     EXPECT_EQ(toParent, dialog.toldText());

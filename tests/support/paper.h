@@ -1,8 +1,11 @@
 #pragma once
 
-// A white sheet of 32 bits in memory.
+// A sheet of 32 bits in memory.
 
 #include <afxwin.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace orv::test {
 
@@ -10,7 +13,7 @@ inline constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 class Paper {
 public:
-    Paper(int w, int h) : width(w), height(h) {
+    Paper(int w, int h, COLORREF color = kWhite) : width(w), height(h), color_(swapped(color)) {
         const BITMAPINFO info = {{40, w, -h, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
         void* bits = NULL;
         dc.CreateCompatibleDC(NULL);
@@ -25,17 +28,26 @@ public:
     }
     COLORREF at(int x, int y) const {
         ::GdiFlush();
-        const DWORD value = bits_[y * width + x];
-        return RGB(BYTE(value >> 16), BYTE(value >> 8), BYTE(value));
+        return swapped(bits_[y * width + x]);
+    }
+    // Row by row.
+    std::vector<COLORREF> pixels() const {
+        ::GdiFlush();
+        std::vector<COLORREF> all(bits_, bits_ + width * height);
+        std::transform(all.begin(), all.end(), all.begin(), swapped);
+        return all;
     }
     void clear() {
         ::GdiFlush();
-        memset(bits_, 0xFF, size_t(4) * width * height);
+        std::fill_n(bits_, width * height, color_);
     }
     CDC dc;
     const int width, height;
 
 private:
+    // Bitmaps have red and blue the other way round than colours; the fourth byte is nobody's.
+    static DWORD swapped(DWORD value) { return RGB(BYTE(value >> 16), BYTE(value >> 8), BYTE(value)); }
+    const DWORD color_;
     DWORD* bits_;
     HBITMAP bitmap_;
     HGDIOBJ old_;
