@@ -36,7 +36,8 @@ void CanvasPage::OnPaint() {
 }
 
 LRESULT CanvasPage::OnPrintClient(WPARAM wParam, LPARAM) {
-    draw(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
+    if (CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam)))
+        draw(*dc);
     return 0;
 }
 

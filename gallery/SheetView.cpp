@@ -53,7 +53,8 @@ void SheetView::OnPaint() {
 }
 
 LRESULT SheetView::OnPrintClient(WPARAM wParam, LPARAM) {
-    draw(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
+    if (CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam)))
+        draw(*dc);
     return 0;
 }
 

@@ -94,7 +94,7 @@ void CGfxOutBarCtrl::ModifyFlag(const DWORD& dwRemove, const DWORD& dwAdd, UINT 
     if (redraw == 0)
         Invalidate(FALSE);
     else
-        ::SetWindowPos(m_hWnd, NULL, 0, 0, 0, 0, redraw | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER);
+        SetWindowPos(NULL, 0, 0, 0, 0, redraw | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER);
 }
 
 void CGfxOutBarCtrl::SetSmallIconView(bool bSmall) {
