@@ -108,18 +108,15 @@ TEST_F(OutBarInput, ArrowsScrollOnceAndAgainWhileHeld) {
     EXPECT_FALSE(bar.m_bUpArrow);
     EXPECT_TRUE(bar.m_bDownArrow);
     const CPoint down = host.middle(bar.m_rcDownArrow);
-    Steps()
-        .then(press(down))
-        .when([&] { return bar.m_nFirstItem == 1 && bar.m_bDownPressed && bar.m_bUpArrow; }, release(down))
-        .run([&] { return idle() && !bar.m_bDownPressed; });
+    Steps().then(clickOn(down)).run([&] { return bar.m_bUpArrow && idle() && !bar.m_bDownPressed; });
     EXPECT_EQ(1, bar.m_nFirstItem);
     // Held it goes on; beside the arrow it rests; at the end the arrow goes.
     int rested = -1;
     Steps()
         .then(press(down))
-        .when([&] { return bar.m_nFirstItem >= 4; }, move(down - CPoint(60, 0)))
+        .when([&] { return bar.m_nFirstItem >= 4 && bar.m_bDownPressed; }, move(down - CPoint(60, 0)))
         .when([&] { return !bar.m_bDownPressed; }, [&] { rested = bar.m_nFirstItem, bar.repeats = 0; })
-        .when([&] { return bar.repeats == 3; },
+        .when([&] { return bar.repeats >= 3; },
               [&] {
                   EXPECT_EQ(rested, bar.m_nFirstItem);
                   moveMouse(down.x, down.y);
@@ -190,6 +187,10 @@ TEST_F(OutBarInput, DragsIntoAnotherFolderWithScrolling) {
     CRect inside;
     bar.GetInsideRect(inside);
     // Over the other header until it opens, at the lower edge until it scrolls, then between two items.
+    // On a busy machine it scrolls on before the mouse is away.
+    const auto marked = [&] {
+        return bar.m_nFirstItem >= 3 && bar.m_nLastDragItemDraw == bar.m_nFirstItem + 1;
+    };
     const CPoint header = host.header(1);
     Steps()
         .then(press(host.item(1)))
@@ -200,23 +201,24 @@ TEST_F(OutBarInput, DragsIntoAnotherFolderWithScrolling) {
                   const CPoint edge = host.toScreen(CPoint(inside.CenterPoint().x, inside.bottom - 3));
                   moveMouse(edge.x, edge.y);
               })
-        .when([&] { return bar.m_nFirstItem == 3; },
+        .when([&] { return bar.m_nFirstItem >= 3; },
               [&] {
                   const CPoint place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
                   moveMouse(place.x, place.y);
               })
-        .when([&] { return bar.m_nLastDragItemDraw == 4; },
+        .when(marked,
               [&] {
                   const CPoint place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
                   releaseMouse(place.x, place.y);
               })
         .run(idle);
     EXPECT_EQ(23, bar.GetItemCount());
-    EXPECT_STREQ("1", bar.GetItemText(4));
-    EXPECT_EQ(101u, bar.GetItemData(4));
+    const int dropped = bar.m_nFirstItem + 1;
+    EXPECT_STREQ("1", bar.GetItemText(dropped));
+    EXPECT_EQ(101u, bar.GetItemData(dropped));
     // On a header: behind the last one.
     Steps()
-        .then(press(host.item(4)))
+        .then(press(host.item(dropped)))
         .when(held, move(host.header(0)))
         .when([&] { return bar.m_nLastFolderHighlighted == 0; }, release(host.header(0)))
         .run(idle);
@@ -228,14 +230,15 @@ TEST_F(OutBarInput, DragsIntoAnotherFolderWithScrolling) {
     bar.GetInsideRect(inside);
     const CPoint edge = host.toScreen(CPoint(inside.CenterPoint().x, inside.bottom - 3)),
                  place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
+    int first = 0;
     Steps()
         .then(press(host.item(0)))
         .when(held, move(edge))
-        .when([&] { return bar.m_nFirstItem == 3; }, move(place))
-        .when([&] { return bar.m_nLastDragItemDraw == 4; }, release(place))
+        .when([&] { return bar.m_nFirstItem >= 3; }, move(place))
+        .when(marked, [&] { first = bar.m_nFirstItem, releaseMouse(place.x, place.y); })
         .run(idle);
-    EXPECT_EQ(2, bar.m_nFirstItem);
-    EXPECT_STREQ("0", bar.GetItemText(3));
+    EXPECT_EQ(first - 1, bar.m_nFirstItem);
+    EXPECT_STREQ("0", bar.GetItemText(first));
 }
 
 TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
@@ -266,6 +269,7 @@ TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
                   row.end)
             .when(idle, release(outside))
             .run([&] { return bar.m_nLastDragItemDraw == -1; });
+        bar.SetSelFolder(0); // a header under the mouse for long has opened its folder
         EXPECT_STREQ("0 1 2", host.texts());
         EXPECT_EQ(0, host.clicks + host.menus);
     }
