@@ -29,6 +29,34 @@ protected:
     Steps::Action key(WORD key) {
         return [key] { pressKey(key); };
     }
+    // A place on a drag's way, and the condition that it has arrived there.
+    struct Stop {
+        CPoint at;
+        Steps::Condition arrived;
+    };
+    // From the first place by these stops, and let go at the last one.
+    void drag(CPoint from, const std::vector<Stop>& way) {
+        Steps steps;
+        steps.then(press(from));
+        Steps::Condition arrived = held;
+        for (const Stop& stop : way) {
+            steps.when(arrived, move(stop.at));
+            arrived = stop.arrived;
+        }
+        steps.when(arrived, release(way.back().at)).run(idle);
+    }
+    // The field over a name has the keyboard.
+    Steps::Condition renames() {
+        return [this] { return ::GetParent(::GetFocus()) == bar.m_hWnd; };
+    }
+    Steps::Condition dropsAt(int index) {
+        return [this, index] { return bar.m_nLastDragItemDraw == index; };
+    }
+    // A press of the key, and the wait for what it does.
+    static bool keyUntil(WORD key, const Steps::Condition& done) {
+        pressKey(key);
+        return waitUntil(done);
+    }
     static bool held() { return ::GetCapture() != NULL; }
     static bool idle() { return ::GetCapture() == NULL; }
 };
@@ -150,7 +178,7 @@ TEST_F(OutBarInput, DragsWithinTheFolder) {
     Steps()
         .then(press(host.item(0)))
         .when(held, move(below))
-        .when([&] { return bar.m_nLastDragItemDraw == 3; },
+        .when(dropsAt(3),
               [&] {
                   EXPECT_EQ(2, bar.m_nLastDragItemDrawType);
                   EXPECT_EQ(bar.m_hDragCursor, ::GetCursor());
@@ -164,18 +192,9 @@ TEST_F(OutBarInput, DragsWithinTheFolder) {
     EXPECT_STREQ("1 2 0", host.texts());
     EXPECT_EQ(2, bar.m_nSelItem) << "still the same item";
     EXPECT_EQ(-1, bar.m_nLastDragItemDraw);
-    Steps()
-        .then(press(host.item(2)))
-        .when(held, move(above))
-        .when([&] { return bar.m_nLastDragItemDrawType == 0; }, release(above))
-        .run(idle);
+    drag(host.item(2), {{above, [&] { return bar.m_nLastDragItemDrawType == 0; }}});
     EXPECT_STREQ("0 1 2", host.texts());
-    const CPoint between = host.item(1) + CPoint(0, 10);
-    Steps()
-        .then(press(host.item(0)))
-        .when(held, move(between))
-        .when([&] { return bar.m_nLastDragItemDraw == 2; }, release(between))
-        .run(idle);
+    drag(host.item(0), {{host.item(1) + CPoint(0, 10), dropsAt(2)}});
     EXPECT_STREQ("1 0 2", host.texts());
     EXPECT_EQ(0, host.clicks);
 }
@@ -184,59 +203,37 @@ TEST_F(OutBarInput, DragsIntoAnotherFolderWithScrolling) {
     host.fill(20);
     for (int i = 0; i < 20; ++i)
         bar.InsertItem(1, -1, "z", 0, 300);
-    CRect inside;
-    bar.GetInsideRect(inside);
+    // In the open folder, so far below its top or, negative, above its bottom.
+    const auto inside = [&](int y) {
+        CRect rect;
+        bar.GetInsideRect(rect);
+        return host.toScreen(CPoint(rect.CenterPoint().x, (y < 0 ? rect.bottom : rect.top) + y));
+    };
+    bar.SetSelFolder(1);
+    const CPoint edge = inside(-3), between = inside(70);
+    bar.SetSelFolder(0);
     // Over the other header until it opens, at the lower edge until it scrolls, then between two items.
     // On a busy machine it scrolls on before the mouse is away.
+    int first = 0;
+    const auto scrolled = [&] { return bar.m_nFirstItem >= 3; };
     const auto marked = [&] {
-        return bar.m_nFirstItem >= 3 && bar.m_nLastDragItemDraw == bar.m_nFirstItem + 1;
+        first = bar.m_nFirstItem;
+        return scrolled() && bar.m_nLastDragItemDraw == first + 1;
     };
-    const CPoint header = host.header(1);
-    Steps()
-        .then(press(host.item(1)))
-        .when(held, move(header))
-        .when([&] { return bar.GetSelFolder() == 1; },
-              [&] {
-                  bar.GetInsideRect(inside);
-                  const CPoint edge = host.toScreen(CPoint(inside.CenterPoint().x, inside.bottom - 3));
-                  moveMouse(edge.x, edge.y);
-              })
-        .when([&] { return bar.m_nFirstItem >= 3; },
-              [&] {
-                  const CPoint place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
-                  moveMouse(place.x, place.y);
-              })
-        .when(marked,
-              [&] {
-                  const CPoint place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
-                  releaseMouse(place.x, place.y);
-              })
-        .run(idle);
+    drag(host.item(1),
+         {{host.header(1), [&] { return bar.GetSelFolder() == 1; }}, {edge, scrolled}, {between, marked}});
     EXPECT_EQ(23, bar.GetItemCount());
-    const int dropped = bar.m_nFirstItem + 1;
-    EXPECT_STREQ("1", bar.GetItemText(dropped));
-    EXPECT_EQ(101u, bar.GetItemData(dropped));
+    EXPECT_STREQ("1", bar.GetItemText(first + 1));
+    EXPECT_EQ(101u, bar.GetItemData(first + 1));
     // On a header: behind the last one.
-    Steps()
-        .then(press(host.item(dropped)))
-        .when(held, move(host.header(0)))
-        .when([&] { return bar.m_nLastFolderHighlighted == 0; }, release(host.header(0)))
-        .run(idle);
+    drag(host.item(first + 1), {{host.header(0), [&] { return bar.m_nLastFolderHighlighted == 0; }}});
+    bar.SetSelFolder(1); // a header under the mouse for long has opened its folder
     EXPECT_EQ(22, bar.GetItemCount());
     bar.SetSelFolder(0);
     EXPECT_EQ(20, bar.GetItemCount());
     EXPECT_STREQ("1", bar.GetItemText(19));
     // Scrolled away within its folder an item leaves a gap above: what is seen stays.
-    bar.GetInsideRect(inside);
-    const CPoint edge = host.toScreen(CPoint(inside.CenterPoint().x, inside.bottom - 3)),
-                 place = host.toScreen(CPoint(inside.CenterPoint().x, inside.top + 70));
-    int first = 0;
-    Steps()
-        .then(press(host.item(0)))
-        .when(held, move(edge))
-        .when([&] { return bar.m_nFirstItem >= 3; }, move(place))
-        .when(marked, [&] { first = bar.m_nFirstItem, releaseMouse(place.x, place.y); })
-        .run(idle);
+    drag(host.item(0), {{inside(-3), scrolled}, {inside(70), marked}});
     EXPECT_EQ(first - 1, bar.m_nFirstItem);
     EXPECT_STREQ("0", bar.GetItemText(first));
 }
@@ -273,24 +270,19 @@ TEST_F(OutBarInput, DragsThatEndWithoutADrop) {
         EXPECT_STREQ("0 1 2", host.texts());
         EXPECT_EQ(0, host.clicks + host.menus);
     }
-    // The folder that the item comes from.
-    Steps()
-        .then(press(host.item(0)))
-        .when(held, move(below))
-        .when([&] { return bar.m_nLastDragItemDraw == 3; }, [&] { bar.RemoveFolder(0); })
-        .when(idle, release(below))
-        .run(idle);
-    EXPECT_STREQ("x y", host.texts());
-    bar.AssertValid();
-    // The window: nothing of the drag is left when there is one again.
-    Steps()
-        .then(press(host.item(0)))
-        .when(held, move(below))
-        .when([&] { return bar.m_nLastDragItemDraw == 2; }, [&] { bar.DestroyWindow(); })
-        .then(release(below))
-        .run(idle);
-    EXPECT_EQ(-1, bar.m_nLastDragItemDraw);
-    EXPECT_STREQ("x y", host.texts());
+    // The folder that the item comes from, then the window: nothing of the drag is left when there is one
+    // again.
+    for (const bool window : {false, true}) {
+        Steps()
+            .then(press(host.item(0)))
+            .when(held, move(below))
+            .when(dropsAt(window ? 2 : 3), [&] { window ? bar.DestroyWindow() : bar.RemoveFolder(0); })
+            .when(idle, release(below))
+            .run(idle);
+        EXPECT_STREQ("x y", host.texts());
+        EXPECT_EQ(-1, bar.m_nLastDragItemDraw);
+        bar.AssertValid();
+    }
 }
 
 // Handlers of the host that end the window, the object or the program in the midst of a press.
@@ -336,37 +328,29 @@ TEST_F(OutBarInput, TheKeyboardWalksOpensRenamesAndRemoves) {
     ASSERT_TRUE(waitUntil([&] { return ::GetFocus() == bar.m_hWnd; }));
     // Down to the first item, click it; on to the last one, which scrolls into view.
     pressKey(VK_DOWN);
-    pressKey(VK_RETURN);
-    ASSERT_TRUE(waitUntil(clicked(1)));
+    ASSERT_TRUE(keyUntil(VK_RETURN, clicked(1)));
     EXPECT_EQ(100u, bar.GetCurrentItemData());
     pressKey(VK_END);
     pressKey(VK_UP);
-    pressKey(VK_RETURN);
-    ASSERT_TRUE(waitUntil(clicked(2)));
+    ASSERT_TRUE(keyUntil(VK_RETURN, clicked(2)));
     EXPECT_EQ(119u, bar.GetCurrentItemData());
     int first, last;
     bar.GetVisibleRange(0, first, last);
     EXPECT_EQ(19, last);
-    pressKey(VK_DELETE);
-    ASSERT_TRUE(waitUntil([&] { return bar.GetItemCount() == 19; }));
+    ASSERT_TRUE(keyUntil(VK_DELETE, [&] { return bar.GetItemCount() == 19; }));
     pressKey(VK_PRIOR);
-    pressKey(VK_RETURN);
-    ASSERT_TRUE(waitUntil(clicked(3)));
+    ASSERT_TRUE(keyUntil(VK_RETURN, clicked(3)));
     EXPECT_EQ(118u - bar.GetCountPerPage(), bar.GetCurrentItemData());
     // The other folder's header, its name, and away with it.
     pressKey(VK_END);
-    pressKey(VK_RETURN);
-    ASSERT_TRUE(waitUntil([&] { return bar.GetSelFolder() == 1; }));
-    pressKey(VK_F2);
-    ASSERT_TRUE(waitUntil([&] { return ::GetParent(::GetFocus()) == bar.m_hWnd; }));
+    ASSERT_TRUE(keyUntil(VK_RETURN, [&] { return bar.GetSelFolder() == 1; }));
+    ASSERT_TRUE(keyUntil(VK_F2, renames()));
     typeText(L"丙\r");
     ASSERT_TRUE(waitUntil([&] { return bar.GetFolderName(1) == "丙" && ::GetFocus() == bar.m_hWnd; }));
-    pressKey(VK_DELETE);
-    ASSERT_TRUE(waitUntil([&] { return bar.GetFolderCount() == 1; }));
+    ASSERT_TRUE(keyUntil(VK_DELETE, [&] { return bar.GetFolderCount() == 1; }));
     EXPECT_EQ(0, bar.GetSelFolder());
     pressKey(VK_HOME);
-    pressKey(VK_INSERT);
-    ASSERT_TRUE(waitUntil([&] { return ::GetParent(::GetFocus()) == bar.m_hWnd; }));
+    ASSERT_TRUE(keyUntil(VK_INSERT, renames()));
     typeText(L"新\r");
     ASSERT_TRUE(waitUntil([&] { return bar.GetItemText(0) == "新"; }));
     pressKey(VK_CONTROL, VK_INSERT);

@@ -27,19 +27,16 @@ bool givesHollowBrushes = false;
 
 LRESULT CALLBACK parentProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     lastMessages += message == WM_NCDESTROY;
-    if (message == WM_CTLCOLORSTATIC && givesHollowBrushes) {
+    if (message == WM_CTLCOLORSTATIC && givesHollowBrushes)
         return reinterpret_cast<LRESULT>(::GetStockObject(HOLLOW_BRUSH));
-    }
     return message == WM_USER ? 77 : ::DefWindowProcA(hWnd, message, wParam, lParam);
 }
 
 LRESULT CALLBACK childProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_PAINT) {
+    if (message == WM_PAINT)
         painted.push_back(hWnd);
-    }
-    if (onChildMessage) {
+    if (onChildMessage)
         onChildMessage(message);
-    }
     return ::DefWindowProcA(hWnd, message, wParam, lParam);
 }
 
@@ -92,9 +89,8 @@ std::string place(HWND child) {
     const int numbers[] = {static_cast<int>(rect.left), static_cast<int>(rect.top), rect.Width(),
                            rect.Height()};
     std::string text;
-    for (int number : numbers) {
+    for (int number : numbers)
         text += (text.empty() ? "" : " ") + std::to_string(number);
-    }
     return text;
 }
 
@@ -247,9 +243,8 @@ TEST(ResizeCtrl, ASubclassAbove) {
             Stranger above(parent->window);
             EXPECT_TRUE(control->Add(child, 100, 0, 0, 0));
             control->SetEnabled(FALSE);
-            if (destroyed) {
+            if (destroyed)
                 control.reset();
-            }
             EXPECT_NE(nullptr, parent->owner()) << "the stranger still calls";
             EXPECT_EQ(77, ::SendMessageA(parent->window, WM_USER, 0, 0));
             parent->size(500, 300);
@@ -299,9 +294,8 @@ TEST(ResizeCtrl, EndsInTheMidstOfAStep) {
         onChildMessage = [&](UINT message) {
             if (message == WM_MOVE && control != NULL) {
                 delete std::exchange(control, nullptr);
-                if (parentEnds) {
+                if (parentEnds)
                     ::DestroyWindow(window);
-                }
             }
         };
         lastMessages = 0;
@@ -320,9 +314,8 @@ TEST(ResizeCtrl, AStepPaintsEachChildOnce) {
     CResizeCtrl control(parent.window);
     control.SetGripEnabled(TRUE);
     const size_t count = 20;
-    for (int i = 0; i < static_cast<int>(count); ++i) {
+    for (int i = 0; i < static_cast<int>(count); ++i)
         ASSERT_TRUE(control.Add(parent.child({i * 10, 0, i * 10 + 9, 50}), 5 * i, 0, 5, 100));
-    }
     ::RedrawWindow(parent.window, NULL, NULL, RDW_UPDATENOW | RDW_ALLCHILDREN);
     for (int step = 1; step <= 3; ++step) {
         painted.clear();
@@ -369,9 +362,8 @@ TEST(ResizeCtrl, ADropDownComboKeepsItsList) {
     Parent parent(WS_OVERLAPPEDWINDOW | WS_VISIBLE);
     const HWND combo =
         parent.child({10, 10, 110, 160}, 0, "COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | CBS_NOINTEGRALHEIGHT);
-    for (int i = 0; i < 50; ++i) {
+    for (int i = 0; i < 50; ++i)
         ::SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("文字"));
-    }
     auto droppedHeight = [combo] {
         CRect rect;
         ::SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect));
@@ -383,9 +375,8 @@ TEST(ResizeCtrl, ADropDownComboKeepsItsList) {
     ASSERT_GT(before, 100);
     CResizeCtrl control(parent.window);
     ASSERT_TRUE(control.Add(combo, 0, 0, 100, 100));
-    for (int i = 1; i <= 30; ++i) {
+    for (int i = 1; i <= 30; ++i)
         parent.size(400 + i, 300 + i);
-    }
     ::GetWindowRect(combo, &after);
     EXPECT_EQ(CSize(field.Width() + 30, field.Height()), after.Size());
     EXPECT_EQ(before, droppedHeight());
@@ -484,13 +475,11 @@ void makeAndEnd() {
         auto parent = std::make_unique<Parent>();
         auto control = std::make_unique<CResizeCtrl>(parent->window);
         control->SetGripEnabled(TRUE);
-        for (int k = 0; k < 20; ++k) {
+        for (int k = 0; k < 20; ++k)
             control->Add(parent->child({k, k, k + 9, k + 9}), k, k, k, k);
-        }
         parent->size(500 + i, 400);
-        if (i % 2 != 0) {
+        if (i % 2 != 0)
             control.reset();
-        }
         parent.reset();
     }
 }
@@ -510,12 +499,10 @@ TEST(ResizeCtrl, StrangeMessagesDoNoHarm) {
     CResizeCtrl control(parent.window);
     control.SetGripEnabled(TRUE);
     control.Add(child, 100, 100, 0, 0);
-    for (WPARAM kind : {WPARAM(SIZE_MINIMIZED), WPARAM(SIZE_MAXSHOW), WPARAM(SIZE_MAXHIDE), WPARAM(99)}) {
+    for (WPARAM kind : {WPARAM(SIZE_MINIMIZED), WPARAM(SIZE_MAXSHOW), WPARAM(SIZE_MAXHIDE), WPARAM(99)})
         ::SendMessageA(parent.window, WM_SIZE, kind, MAKELPARAM(9, 9));
-    }
-    for (UINT message : {WM_ERASEBKGND, WM_PRINTCLIENT, WM_PARENTNOTIFY}) {
+    for (UINT message : {WM_ERASEBKGND, WM_PRINTCLIENT, WM_PARENTNOTIFY})
         ::SendMessageA(parent.window, message, 0x12345, -1);
-    }
     EXPECT_EQ("0 0 10 10", place(child));
     ::RemovePropA(parent.window, property);
     EXPECT_EQ(0, ::SendMessageA(parent.window, WM_USER, 0, 0)) << "nobody is known to pass it on to";

@@ -96,9 +96,8 @@ std::vector<Child> someChildren(int count, int parts, unsigned seed) {
 }
 
 void step(std::vector<Child>& children, int dx, int dy, int parts) {
-    for (Child& child : children) {
+    for (Child& child : children)
         moveByShares(dx, dy, child.shares, parts, child.remainders, child.box);
-    }
 }
 
 void expectSameLayout(const std::vector<Child>& one, const std::vector<Child>& other) {
@@ -116,9 +115,8 @@ TEST(ResizeShares, ManySmallStepsMakeOneLargeOne) {
             SCOPED_TRACE(testing::Message() << parts << " parts, direction " << direction);
             const unsigned seed = static_cast<unsigned>(parts);
             std::vector<Child> small = someChildren(1000, parts, seed), large = small;
-            for (int i = 0; i < 10000; ++i) {
+            for (int i = 0; i < 10000; ++i)
                 step(small, direction, direction, parts);
-            }
             step(large, 10000 * direction, 10000 * direction, parts);
             expectSameLayout(small, large);
         }
@@ -128,15 +126,12 @@ TEST(ResizeShares, ManySmallStepsMakeOneLargeOne) {
 TEST(ResizeShares, ThereAndBackPixelByPixel) {
     // To nothing and far beyond the first size: what shrank away is paid back, and nothing sticks.
     std::vector<Child> children = someChildren(1000, 100, 7), before = children;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 3000; ++i)
         step(children, -1, -1, 100);
-    }
-    for (const Child& child : children) {
+    for (const Child& child : children)
         ASSERT_TRUE(child.box.width >= 0 && child.box.height >= 0);
-    }
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 3000; ++i)
         step(children, 1, 1, 100);
-    }
     expectSameLayout(before, children);
 }
 
