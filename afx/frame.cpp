@@ -148,19 +148,25 @@ BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
     return app && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
+// None in what is no menu: the number comes from a message, and a handler may have destroyed it.
+static UINT itemsOf(const CMenu& menu) {
+    const UINT count = menu.GetMenuItemCount();
+    return count == static_cast<UINT>(-1) ? 0 : count;
+}
+
 void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
     Default();
     if (bSysMenu || !pPopupMenu)
         return;
     CCmdUI state;
     state.m_pMenu = pPopupMenu;
-    state.m_nIndexMax = pPopupMenu->GetMenuItemCount();
+    state.m_nIndexMax = itemsOf(*pPopupMenu);
     for (; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
         state.m_nID = pPopupMenu->GetMenuItemID(static_cast<int>(state.m_nIndex));
         // Separators, and items that open a menu.
         if (state.m_nID == 0 || state.m_nID == static_cast<UINT>(-1))
             continue;
         state.DoUpdate(this, m_bAutoMenuEnable && state.m_nID < 0xF000);
-        state.m_nIndexMax = pPopupMenu->GetMenuItemCount();
+        state.m_nIndexMax = itemsOf(*pPopupMenu);
     }
 }

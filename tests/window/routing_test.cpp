@@ -338,6 +338,10 @@ TEST(Routing, MenuItemsFollowTheirHandlers) {
     CString text;
     menu.GetMenuString(100, text, MF_BYCOMMAND);
     EXPECT_STREQ("新名", text);
+    // What is no menu has no items, and is through at once.
+    menu.DestroyMenu();
+    for (const WPARAM none : {WPARAM(1), WPARAM(0x24), WPARAM(-1)})
+        frame->SendMessage(WM_INITMENUPOPUP, none, 0);
     frame->DestroyWindow();
 }
 
