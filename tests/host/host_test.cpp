@@ -4,6 +4,7 @@
 #include "resource.h"
 
 #include "support/input.h"
+#include "support/scratch_folder.h"
 
 #include <commctrl.h>
 
@@ -13,45 +14,35 @@ using namespace orv::test;
 
 namespace {
 
-// A file of this run in the temporary folder, gone at the end.
-class PlanFile {
-public:
-    PlanFile() {
-        char folder[MAX_PATH], name[MAX_PATH];
-        ::GetTempPathA(MAX_PATH, folder);
-        ::GetTempFileNameA(folder, "pln", 0, name);
-        name_ = name;
-    }
-    ~PlanFile() { ::DeleteFileA(name_.c_str()); }
-    const std::string& name() const { return name_; }
-
-private:
-    std::string name_;
-};
-
 HWND item(HWND dialog, int id) {
     return ::GetDlgItem(dialog, id);
 }
 
 class Host : public testing::Test {
 protected:
-    PlanFile file;
-
-    // Fills the item dialog by keys alone and confirms it.
-    static void addItem(DrivenProgram& host, const char* name, const char* count, int symbol) {
-        pressKey(VK_CONTROL, 'D');
-        HWND dialog = host.dialog("项目");
-        ASSERT_TRUE(dialog);
-        ASSERT_TRUE(host.waitFocus(item(dialog, IDC_NAME)));
-        EXPECT_FALSE(::IsWindowEnabled(host.frame()));
+    void SetUp() override { ASSERT_TRUE(host.frame()); }
+    // The dialog that this key opens together with Ctrl.
+    static HWND open(DrivenProgram& host, WORD key, const char* title) {
+        pressKey(VK_CONTROL, key);
+        const HWND dialog = host.dialog(title);
+        EXPECT_TRUE(dialog) << title;
+        return dialog;
+    }
+    // Into a field that has the keyboard, over what is there.
+    static void retype(DrivenProgram& host, HWND field, const char* text) {
+        ASSERT_TRUE(host.waitFocus(field));
         pressKey(VK_HOME);
         pressKey(VK_SHIFT, VK_END);
-        typeText(wideText(name));
-        EXPECT_TRUE(host.waitText(item(dialog, IDC_NAME), name));
+        typeText(wideText(text));
+        ASSERT_TRUE(host.waitText(field, text));
+    }
+    // Fills the item dialog by keys alone and confirms it.
+    static void addItem(DrivenProgram& host, const char* name, const char* count, int symbol) {
+        const HWND dialog = open(host, 'D', "项目");
+        EXPECT_FALSE(::IsWindowEnabled(host.frame()));
+        retype(host, item(dialog, IDC_NAME), name);
         pressKey(VK_TAB);
-        ASSERT_TRUE(host.waitFocus(item(dialog, IDC_COUNT)));
-        typeText(wideText(count));
-        EXPECT_TRUE(host.waitText(item(dialog, IDC_COUNT), count));
+        retype(host, item(dialog, IDC_COUNT), count);
         pressKey(VK_TAB);
         ASSERT_TRUE(host.waitFocus(item(dialog, IDC_SYMBOL)));
         char picked[16];
@@ -88,41 +79,34 @@ protected:
         pressKey(VK_MENU, VK_F4);
         EXPECT_EQ(0, host.waitExit());
     }
+
+    ScratchFolder folder;
+    const std::string plan = folder.path("plan").GetString();
+    DrivenProgram host{"host.exe", plan, "计划"};
 };
 
 TEST_F(Host, ItemsAreAddedSavedAndLoadedByAnotherRun) {
-    {
-        DrivenProgram host("host.exe", file.name(), "计划");
-        ASSERT_TRUE(host.frame());
-        addItem(host, "铁路线", "3", 0);
-        EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 [ 500]"));
-        addItem(host, "村庄 No.7", "100", 1);
-        EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500]"));
-        pressKey(VK_CONTROL, 'S');
-        EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500] 已保存"));
-        leave(host);
-    }
-    DrivenProgram host("host_console.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
-    pressKey(VK_CONTROL, 'O');
-    EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 村庄 No.7*100方 [ 500]"));
+    addItem(host, "铁路线", "3", 0);
+    EXPECT_TRUE(host.waitTitle("计划: 铁路线*3圆 [ 500]"));
+    addItem(host, "村庄 No.7", "100", 1);
+    const std::string both = "计划: 铁路线*3圆 村庄 No.7*100方 [ 500]";
+    EXPECT_TRUE(host.waitTitle(both));
+    pressKey(VK_CONTROL, 'S');
+    EXPECT_TRUE(host.waitTitle(both + " 已保存"));
     leave(host);
+    DrivenProgram another("host_console.exe", plan, "计划");
+    ASSERT_TRUE(another.frame());
+    pressKey(VK_CONTROL, 'O');
+    EXPECT_TRUE(another.waitTitle(both));
+    leave(another);
 }
 
 TEST_F(Host, ARefusedValueKeepsTheDialogAndMarksTheField) {
-    DrivenProgram host("host.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
-    pressKey(VK_CONTROL, 'D');
-    HWND dialog = host.dialog("项目");
-    ASSERT_TRUE(dialog);
+    const HWND dialog = open(host, 'D', "项目");
     HWND count = item(dialog, IDC_COUNT);
     for (const char* refused : {"500", "0", "12x", "99999999999"}) {
         click(count);
-        ASSERT_TRUE(host.waitFocus(count));
-        pressKey(VK_HOME);
-        pressKey(VK_SHIFT, VK_END);
-        typeText(wideText(refused));
-        ASSERT_TRUE(host.waitText(count, refused));
+        retype(host, count, refused);
         pressKey(VK_RETURN);
         HWND box = host.dialog("host");
         ASSERT_TRUE(box) << refused;
@@ -140,11 +124,7 @@ TEST_F(Host, ARefusedValueKeepsTheDialogAndMarksTheField) {
 }
 
 TEST_F(Host, MouseAndASubclassedFieldWorkInTheDialog) {
-    DrivenProgram host("host.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
-    pressKey(VK_CONTROL, 'D');
-    HWND dialog = host.dialog("项目");
-    ASSERT_TRUE(dialog);
+    const HWND dialog = open(host, 'D', "项目");
     click(item(dialog, IDC_VISIBLE));
     EXPECT_TRUE(waitUntil([&] { return ::SendMessageA(item(dialog, IDC_VISIBLE), BM_GETCHECK, 0, 0) == 0; }));
     click(item(dialog, IDC_DOUBLE));
@@ -161,8 +141,6 @@ TEST_F(Host, MouseAndASubclassedFieldWorkInTheDialog) {
 }
 
 TEST_F(Host, CancelledDialogsChangeNothing) {
-    DrivenProgram host("host.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
     addItem(host, "桥", "2", 1);
     const std::string title = "计划: 桥*2方 [ 500]";
     ASSERT_TRUE(host.waitTitle(title));
@@ -174,9 +152,7 @@ TEST_F(Host, CancelledDialogsChangeNothing) {
                 {"button", [](HWND dialog) { click(item(dialog, IDCANCEL)); }}};
     for (const auto& row : rows)
         for (const char* what : {"项目", "选项"}) {
-            pressKey(VK_CONTROL, what == std::string("项目") ? 'D' : 'R');
-            HWND dialog = host.dialog(what);
-            ASSERT_TRUE(dialog) << row.how << what;
+            const HWND dialog = open(host, what == std::string("项目") ? 'D' : 'R', what);
             typeText(L"x");
             row.close(dialog);
             EXPECT_TRUE(host.waitGone(dialog)) << row.how << what;
@@ -187,11 +163,7 @@ TEST_F(Host, CancelledDialogsChangeNothing) {
 }
 
 TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
-    DrivenProgram host("host.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
-    pressKey(VK_CONTROL, 'R');
-    HWND sheet = host.dialog("选项");
-    ASSERT_TRUE(sheet);
+    const HWND sheet = open(host, 'R', "选项");
     HWND name = host.focus();
     EXPECT_EQ(IDC_SHEET_NAME, ::GetDlgCtrlID(name));
     EXPECT_FALSE(::IsWindowEnabled(host.frame()));
@@ -205,11 +177,7 @@ TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
         return scale && ::IsWindowVisible(scale);
     }));
     click(scale);
-    ASSERT_TRUE(host.waitFocus(scale));
-    pressKey(VK_HOME);
-    pressKey(VK_SHIFT, VK_END);
-    typeText(L"0");
-    ASSERT_TRUE(host.waitText(scale, "0"));
+    retype(host, scale, "0");
     // The page is not left with a value that it refuses.
     pressKey(VK_RETURN);
     HWND box = host.dialog("host");
@@ -217,8 +185,7 @@ TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
     pressKey(VK_RETURN);
     ASSERT_TRUE(host.waitGone(box));
     ASSERT_TRUE(host.waitReady(sheet) && host.waitFocus(scale));
-    typeText(L"250.5");
-    ASSERT_TRUE(host.waitText(scale, "250.5"));
+    retype(host, scale, "250.5");
     HWND grid = item(::GetParent(scale), IDC_GRID);
     click(grid);
     EXPECT_TRUE(waitUntil([&] { return ::SendMessageA(grid, BM_GETCHECK, 0, 0) == 1; }));
@@ -229,17 +196,11 @@ TEST_F(Host, ASheetOfTwoPagesExchangesBoth) {
 }
 
 TEST_F(Host, AModelessDialogStaysWhileTheFrameWorks) {
-    DrivenProgram host("host.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
-    pressKey(VK_CONTROL, 'F');
-    HWND find = host.dialog("查找");
-    ASSERT_TRUE(find);
+    const HWND find = open(host, 'F', "查找");
     ASSERT_TRUE(host.waitTitle("计划: [ 500] ?"));
     EXPECT_TRUE(::IsWindowEnabled(host.frame()));
     click(item(find, IDC_WHAT));
-    ASSERT_TRUE(host.waitFocus(item(find, IDC_WHAT)));
-    typeText(wideText("桥梁"));
-    ASSERT_TRUE(host.waitText(item(find, IDC_WHAT), "桥梁"));
+    retype(host, item(find, IDC_WHAT), "桥梁");
     pressKey(VK_RETURN);
     EXPECT_TRUE(host.waitTitle("计划: [ 500] ?桥梁"));
     pressKey(VK_ESCAPE);
@@ -249,25 +210,21 @@ TEST_F(Host, AModelessDialogStaysWhileTheFrameWorks) {
 }
 
 TEST_F(Host, ItEndsWellInWhateverOrderItsWindowsClose) {
+    leave(host);
     const struct {
-        const char* what;
-        char key;
+        WORD key;
         const char* title;
-    } rows[] = {{"modal dialog", 'D', "项目"}, {"sheet", 'R', "选项"}, {"modeless dialog", 'F', "查找"}};
+    } rows[] = {{'D', "项目"}, {'R', "选项"}, {'F', "查找"}}; // modal, a sheet, modeless
     for (const auto& row : rows) {
         // The frame goes first, with the other window open over it.
-        DrivenProgram host("host.exe", file.name(), "计划");
-        ASSERT_TRUE(host.frame()) << row.what;
-        pressKey(VK_CONTROL, static_cast<WORD>(row.key));
-        ASSERT_TRUE(host.dialog(row.title)) << row.what;
-        ::PostMessageA(host.frame(), WM_CLOSE, 0, 0);
-        EXPECT_EQ(0, host.waitExit()) << row.what;
+        DrivenProgram one("host.exe", plan, "计划");
+        ASSERT_TRUE(one.frame() && open(one, row.key, row.title));
+        ::PostMessageA(one.frame(), WM_CLOSE, 0, 0);
+        EXPECT_EQ(0, one.waitExit()) << row.title;
     }
 }
 
 TEST_F(Host, CommandsAreThereOnlyWithTheirReason) {
-    DrivenProgram host("host.exe", file.name(), "计划");
-    ASSERT_TRUE(host.frame());
     // Nothing to clear: neither the menu nor the key does it. Clearing would rewrite the title.
     pressKey(VK_CONTROL, 'S');
     ASSERT_TRUE(host.waitTitle("计划 已保存"));
