@@ -2,29 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "support/gdi_count.h"
+#include "support/paper.h"
+
+using namespace orv::test;
 
 namespace {
 
-// A memory context over a 32-bit picture, white at first.
-class Canvas : public CDC {
-public:
-    Canvas(int width = 100, int height = 80) {
-        CreateCompatibleDC(NULL);
-        CClientDC screen(NULL);
-        bitmap_.CreateCompatibleBitmap(&screen, width, height);
-        old_ = SelectObject(&bitmap_);
-        FillSolidRect(0, 0, width, height, RGB(255, 255, 255));
-    }
-    ~Canvas() override { SelectObject(old_); }
-
-private:
-    CBitmap bitmap_;
-    CBitmap* old_;
+class DeviceContext : public testing::Test {
+protected:
+    Paper paper{300, 80};
+    CDC& dc = paper.dc;
 };
 
-TEST(DeviceContext, SelectingGivesTheFormerObjectBack) {
-    Canvas dc;
+TEST_F(DeviceContext, SelectingGivesTheFormerObjectBack) {
     CPen first(PS_SOLID, 1, RGB(0, 0, 0)), second(PS_SOLID, 2, RGB(0, 0, 0));
     CPen* stock = dc.SelectObject(&first);
     EXPECT_EQ(::GetStockObject(BLACK_PEN), stock->m_hObject);
@@ -43,47 +36,41 @@ TEST(DeviceContext, SelectingGivesTheFormerObjectBack) {
     EXPECT_EQ(SIMPLEREGION, dc.SelectObject(&clip));
 }
 
-TEST(DeviceContext, AttributesAnswerTheirFormerValue) {
-    Canvas dc;
-    struct Row {
-        const char* name;
-        LONGLONG former, now;
-        LONGLONG (*set)(CDC&);
-        LONGLONG (*get)(CDC&);
-    } const rows[] = {
-        {"BkColor", RGB(255, 255, 255), RGB(1, 2, 3),
-         [](CDC& d) -> LONGLONG { return d.SetBkColor(RGB(1, 2, 3)); },
-         [](CDC& d) -> LONGLONG { return d.GetBkColor(); }},
-        {"BkMode", OPAQUE, TRANSPARENT, [](CDC& d) -> LONGLONG { return d.SetBkMode(TRANSPARENT); },
-         [](CDC& d) -> LONGLONG { return d.GetBkMode(); }},
-        {"TextColor", 0, RGB(4, 5, 6), [](CDC& d) -> LONGLONG { return d.SetTextColor(RGB(4, 5, 6)); },
-         [](CDC& d) -> LONGLONG { return d.GetTextColor(); }},
-        {"TextAlign", TA_LEFT, TA_RIGHT, [](CDC& d) -> LONGLONG { return d.SetTextAlign(TA_RIGHT); },
-         [](CDC& d) -> LONGLONG { return d.GetTextAlign(); }},
-        {"CharacterExtra", 0, 3, [](CDC& d) -> LONGLONG { return d.SetTextCharacterExtra(3); },
-         [](CDC& d) -> LONGLONG { return d.GetTextCharacterExtra(); }},
-        {"ROP2", R2_COPYPEN, R2_XORPEN, [](CDC& d) -> LONGLONG { return d.SetROP2(R2_XORPEN); },
-         [](CDC& d) -> LONGLONG { return d.GetROP2(); }},
-        {"PolyFillMode", ALTERNATE, WINDING, [](CDC& d) -> LONGLONG { return d.SetPolyFillMode(WINDING); },
-         [](CDC& d) -> LONGLONG { return d.GetPolyFillMode(); }},
-        {"StretchBltMode", BLACKONWHITE, COLORONCOLOR,
-         [](CDC& d) -> LONGLONG { return d.SetStretchBltMode(COLORONCOLOR); },
-         [](CDC& d) -> LONGLONG { return d.GetStretchBltMode(); }},
-        {"MapMode", MM_TEXT, MM_ANISOTROPIC, [](CDC& d) -> LONGLONG { return d.SetMapMode(MM_ANISOTROPIC); },
-         [](CDC& d) -> LONGLONG { return d.GetMapMode(); }},
+struct Attribute {
+    const char* name;
+    LONGLONG former, now;
+    std::function<LONGLONG(CDC&)> set, get;
+};
+
+template <auto Set, auto Get, class Value>
+Attribute attribute(const char* name, Value former, Value now) {
+    return {name, former, now, [now](CDC& d) -> LONGLONG { return (d.*Set)(now); },
+            [](CDC& d) -> LONGLONG { return (d.*Get)(); }};
+}
+
+TEST_F(DeviceContext, AttributesAnswerTheirFormerValue) {
+    const Attribute rows[] = {
+        attribute<&CDC::SetBkColor, &CDC::GetBkColor>("BkColor", kWhite, RGB(1, 2, 3)),
+        attribute<&CDC::SetBkMode, &CDC::GetBkMode>("BkMode", OPAQUE, TRANSPARENT),
+        attribute<&CDC::SetTextColor, &CDC::GetTextColor>("TextColor", RGB(0, 0, 0), RGB(4, 5, 6)),
+        attribute<&CDC::SetTextAlign, &CDC::GetTextAlign>("TextAlign", UINT(TA_LEFT), UINT(TA_RIGHT)),
+        attribute<&CDC::SetTextCharacterExtra, &CDC::GetTextCharacterExtra>("CharacterExtra", 0, 3),
+        attribute<&CDC::SetROP2, &CDC::GetROP2>("ROP2", R2_COPYPEN, R2_XORPEN),
+        attribute<&CDC::SetPolyFillMode, &CDC::GetPolyFillMode>("PolyFillMode", ALTERNATE, WINDING),
+        attribute<&CDC::SetStretchBltMode, &CDC::GetStretchBltMode>("Stretch", BLACKONWHITE, COLORONCOLOR),
+        attribute<&CDC::SetMapMode, &CDC::GetMapMode>("MapMode", MM_TEXT, MM_ANISOTROPIC),
     };
     const int saved = dc.SaveDC();
-    for (const Row& row : rows) {
+    for (const Attribute& row : rows) {
         EXPECT_EQ(row.former, row.set(dc)) << row.name;
         EXPECT_EQ(row.now, row.get(dc)) << row.name;
     }
     ASSERT_TRUE(dc.RestoreDC(saved));
-    for (const Row& row : rows)
+    for (const Attribute& row : rows)
         EXPECT_EQ(row.former, row.get(dc)) << row.name;
 }
 
-TEST(DeviceContext, MappingConvertsPointsRectanglesAndSizes) {
-    Canvas dc;
+TEST_F(DeviceContext, MappingConvertsPointsRectanglesAndSizes) {
     dc.SetMapMode(MM_ANISOTROPIC);
     dc.SetWindowExt(100, 100);
     dc.SetViewportExt(200, -300);
@@ -107,8 +94,7 @@ TEST(DeviceContext, MappingConvertsPointsRectanglesAndSizes) {
     EXPECT_EQ(CSize(10, 10), size);
 }
 
-TEST(DeviceContext, DrawsWhatItIsTold) {
-    Canvas dc;
+TEST_F(DeviceContext, DrawsWhatItIsTold) {
     dc.FillSolidRect(10, 10, 20, 20, RGB(255, 0, 0));
     dc.Draw3dRect(CRect(40, 10, 50, 20), RGB(0, 255, 0), RGB(0, 0, 255));
     CPen pen(PS_SOLID, 1, RGB(0, 0, 255));
@@ -118,27 +104,26 @@ TEST(DeviceContext, DrawsWhatItIsTold) {
     EXPECT_EQ(CPoint(70, 10), dc.GetCurrentPosition());
     dc.SelectObject(old);
     {
-        Canvas source(10, 10);
-        source.FillSolidRect(0, 0, 10, 10, RGB(1, 1, 1));
-        EXPECT_TRUE(dc.BitBlt(60, 40, 10, 10, &source, 0, 0, SRCCOPY));
-        EXPECT_TRUE(dc.StretchBlt(80, 40, 5, 5, &source, 0, 0, 10, 10, SRCCOPY));
+        Paper source(10, 10);
+        source.dc.FillSolidRect(0, 0, 10, 10, RGB(1, 1, 1));
+        EXPECT_TRUE(dc.BitBlt(60, 40, 10, 10, &source.dc, 0, 0, SRCCOPY));
+        EXPECT_TRUE(dc.StretchBlt(80, 40, 5, 5, &source.dc, 0, 0, 10, 10, SRCCOPY));
     }
     const struct {
         int x, y;
         COLORREF colour;
     } pixels[] = {
-        {9, 10, RGB(255, 255, 255)},  {10, 10, RGB(255, 0, 0)}, {29, 29, RGB(255, 0, 0)},
-        {30, 29, RGB(255, 255, 255)}, {40, 15, RGB(0, 255, 0)}, {49, 15, RGB(0, 0, 255)},
-        {45, 15, RGB(255, 255, 255)}, {65, 10, RGB(0, 0, 255)}, {70, 10, RGB(255, 255, 255)},
-        {65, 45, RGB(1, 1, 1)},       {84, 44, RGB(1, 1, 1)},   {85, 44, RGB(255, 255, 255)},
+        {9, 10, kWhite},        {10, 10, RGB(255, 0, 0)}, {29, 29, RGB(255, 0, 0)},
+        {30, 29, kWhite},       {40, 15, RGB(0, 255, 0)}, {49, 15, RGB(0, 0, 255)},
+        {45, 15, kWhite},       {65, 10, RGB(0, 0, 255)}, {70, 10, kWhite},
+        {65, 45, RGB(1, 1, 1)}, {84, 44, RGB(1, 1, 1)},   {85, 44, kWhite},
     };
     for (const auto& pixel : pixels)
         EXPECT_EQ(pixel.colour, dc.GetPixel(pixel.x, pixel.y)) << pixel.x << "," << pixel.y;
-    EXPECT_EQ(RGB(255, 255, 255), dc.GetBkColor()); // filling leaves it alone
+    EXPECT_EQ(kWhite, dc.GetBkColor()); // filling leaves it alone
 }
 
-TEST(DeviceContext, PathsAreCountedFlattenedAndUsedUp) {
-    Canvas dc;
+TEST_F(DeviceContext, PathsAreCountedFlattenedAndUsedUp) {
     EXPECT_EQ(-1, dc.GetPath(NULL, NULL, 0));
     const POINT curve[4] = {{0, 0}, {30, 0}, {30, 60}, {60, 60}};
     dc.BeginPath();
@@ -156,8 +141,7 @@ TEST(DeviceContext, PathsAreCountedFlattenedAndUsedUp) {
     EXPECT_EQ(-1, dc.GetPath(NULL, NULL, 0));
 }
 
-TEST(DeviceContext, MeasuresAndDrawsChineseText) {
-    Canvas dc(300, 60);
+TEST_F(DeviceContext, MeasuresAndDrawsChineseText) {
     CFont font;
     font.CreateFont(-24, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
                     CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, "宋体");
@@ -187,7 +171,7 @@ TEST(DeviceContext, MeasuresAndDrawsChineseText) {
     dc.SelectObject(old);
 }
 
-TEST(DeviceContext, ScreenAndMetafileForms) {
+TEST_F(DeviceContext, ScreenAndMetafileForms) {
     CClientDC screen(NULL);
     CWindowDC window(NULL);
     EXPECT_GT(screen.GetDeviceCaps(HORZRES), 0);
@@ -204,23 +188,22 @@ TEST(DeviceContext, ScreenAndMetafileForms) {
     ASSERT_TRUE(::GetEnhMetaFileHeader(file, sizeof header, &header));
     EXPECT_EQ(CRect(1, 2, 30, 40), CRect(header.rclBounds.left, header.rclBounds.top, header.rclBounds.right,
                                          header.rclBounds.bottom));
-    Canvas dc;
     CRect bounds(0, 0, 50, 50);
     EXPECT_TRUE(dc.PlayMetaFile(file, &bounds));
     ::DeleteEnhMetaFile(file);
 }
 
-TEST(DeviceContext, BalancedUseLeavesNoHandleBehind) {
+TEST_F(DeviceContext, BalancedUseLeavesNoHandleBehind) {
     auto round = [] {
         for (int i = 0; i < 20; ++i) {
-            Canvas dc(16, 16);
+            Paper small(16, 16);
             CPen pen(PS_SOLID, i, RGB(i, 0, 0));
             CBrush brush(RGB(0, i, 0));
-            CPen* oldPen = dc.SelectObject(&pen);
-            CBrush* oldBrush = dc.SelectObject(&brush);
-            dc.Rectangle(0, 0, 8, 8);
-            dc.SelectObject(oldBrush);
-            dc.SelectObject(oldPen);
+            CPen* oldPen = small.dc.SelectObject(&pen);
+            CBrush* oldBrush = small.dc.SelectObject(&brush);
+            small.dc.Rectangle(0, 0, 8, 8);
+            small.dc.SelectObject(oldBrush);
+            small.dc.SelectObject(oldPen);
             CClientDC screen(NULL);
             CMetaFileDC abandoned;
             abandoned.CreateEnhanced(&screen, NULL, NULL, NULL);
@@ -229,10 +212,10 @@ TEST(DeviceContext, BalancedUseLeavesNoHandleBehind) {
         AfxUnlockTempMaps();
     };
     round();
-    const int before = orv::test::liveGdiHandles();
+    const int before = liveGdiHandles();
     ASSERT_GT(before, 0);
     round();
-    EXPECT_EQ(before, orv::test::liveGdiHandles());
+    EXPECT_EQ(before, liveGdiHandles());
 }
 
 } // namespace
