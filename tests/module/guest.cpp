@@ -3,7 +3,7 @@
 #include <afxwin.h>
 #include <afxdllx.h>
 
-class CGuest : public CObject {
+class AFX_EXT_CLASS CGuest : public CObject {
     DECLARE_SERIAL(CGuest)
 };
 

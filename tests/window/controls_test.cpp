@@ -1,6 +1,5 @@
 // The wrappers of controls, menus and the system's dialogs.
 
-#include "test_app.h"
 #include "window_test.h"
 
 namespace {

@@ -1,6 +1,5 @@
 // Modal loops, sheets and the pump.
 
-#include "test_app.h"
 #include "window_test.h"
 
 #include "support/heap_count.h"
@@ -162,16 +161,16 @@ TEST(Dialog, KeysPassTheControlsBeforeTheDialog) {
 class CIdlePage : public CPropertyPage {
 public:
     explicit CIdlePage(UINT nIDTemplate) : CPropertyPage(nIDTemplate) {}
-    int m_nSet = 0, m_nKilled = 0, m_nApplied = 0, m_nReset = 0;
-    BOOL m_bLeave = TRUE;
+    int m_nSet = 0, m_nApplied = 0, m_nReset = 0;
+    int m_nValue = 0; // in its field, when it has one
 
     BOOL OnSetActive() override {
         ++m_nSet;
         return CPropertyPage::OnSetActive();
     }
-    BOOL OnKillActive() override {
-        ++m_nKilled;
-        return m_bLeave && CPropertyPage::OnKillActive();
+    void DoDataExchange(CDataExchange* pDX) override {
+        if (GetDlgItem(IDC_EDIT))
+            DDX_Text(pDX, IDC_EDIT, m_nValue);
     }
     void OnOK() override { ++m_nApplied; }
     void OnCancel() override { ++m_nReset; }
@@ -195,17 +194,19 @@ TEST(Sheet, PagesAreMadeLeftAndConfirmed) {
         CString text;
         s.GetWindowText(text);
         EXPECT_STREQ("表单", text);
-        first.m_bLeave = FALSE;
+        first.SetDlgItemText(IDC_EDIT, "7x");
         s.SetActivePage(1);
         EXPECT_EQ(0, s.GetActiveIndex()) << "not left";
         s.PressButton(PSBTN_OK);
         EXPECT_EQ(0, first.m_nApplied) << "not confirmed either";
-        first.m_bLeave = TRUE;
+        EXPECT_EQ(2u, orv::test::takeMessages().size());
+        first.SetDlgItemText(IDC_EDIT, "7");
         s.SetActivePage(&second);
         EXPECT_EQ(&second, s.GetActivePage());
         s.PressButton(PSBTN_OK);
     };
     EXPECT_EQ(IDOK, sheet.DoModal());
+    EXPECT_EQ(7, first.m_nValue);
     EXPECT_EQ(1, first.m_nApplied);
     EXPECT_EQ(1, second.m_nApplied);
     EXPECT_EQ(0, first.m_nReset);

@@ -1,19 +1,12 @@
 // Data between controls and members: what is accepted, what is refused and how the user learns of it.
 
-#include "test_app.h"
 #include "window_test.h"
 
 #include <float.h>
 #include <functional>
 #include <limits.h>
 
-CTestApp theApp;
-
-int CTestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) {
-    m_strPrompt = lpszPrompt;
-    ++m_nBoxes;
-    return IDOK;
-}
+using namespace orv::test;
 
 namespace {
 
@@ -65,9 +58,10 @@ protected:
         }
         for (const char* row : refused) {
             dialog.SetDlgItemText(IDC_EDIT, row);
-            const int boxes = theApp.m_nBoxes;
             EXPECT_FALSE(dialog.UpdateData(TRUE)) << row;
-            EXPECT_EQ(boxes + 1, theApp.m_nBoxes) << row;
+            const Messages messages = takeMessages();
+            ASSERT_EQ(1u, messages.size()) << row;
+            complaint = messages[0];
             EXPECT_EQ(::GetDlgItem(dialog.m_hWnd, IDC_EDIT), ::GetFocus()) << row;
             const auto marked = static_cast<DWORD>(dialog.SendDlgItemMessage(IDC_EDIT, EM_GETSEL));
             const int length = ::GetWindowTextLengthW(::GetDlgItem(dialog.m_hWnd, IDC_EDIT));
@@ -76,6 +70,7 @@ protected:
     }
 
     CFieldsDlg dialog;
+    std::string complaint; // about the value refused last
 };
 
 TEST_F(Exchange, NumbersAreReadWholeOrRefused) {
@@ -99,7 +94,7 @@ TEST_F(Exchange, LimitsAreAllowedValues) {
                 [](CDataExchange* pDX, UINT& v) { DDV_MinMaxUInt(pDX, v, 1, 100); });
     check<double>(5, "5", {{"0.5", 0.5}, {"9.5", 9.5}}, {"0.49", "9.51"},
                   [](CDataExchange* pDX, double& v) { DDV_MinMaxDouble(pDX, v, 0.5, 9.5); });
-    EXPECT_STREQ("请键入 0.5 到 9.5 之间的数。", theApp.m_strPrompt);
+    EXPECT_EQ("请键入 0.5 到 9.5 之间的数。", complaint);
     check<BYTE>(5, "5", {{"3", 3}}, {"2", "8"},
                 [](CDataExchange* pDX, BYTE& v) { DDV_MinMaxByte(pDX, v, 3, 7); });
     check<CString>("", "", {{"四个汉字", "四个汉字"}}, {"五个汉字了"},
@@ -110,9 +105,8 @@ TEST_F(Exchange, LimitsAreAllowedValues) {
         DDX_Text(pDX, IDC_EDIT, value);
         DDV_MinMaxInt(pDX, value, 1, 100);
     };
-    const int boxes = theApp.m_nBoxes;
     EXPECT_TRUE(dialog.UpdateData(FALSE));
-    EXPECT_EQ(boxes, theApp.m_nBoxes);
+    EXPECT_EQ(Messages(), takeMessages());
     EXPECT_STREQ("500", edit());
 }
 
@@ -172,7 +166,7 @@ TEST_F(Exchange, ControlsAreTakenOverOnceAndTheRestIsTold) {
     EXPECT_TRUE(dialog.UpdateData(TRUE));
     int value = 3;
     dialog.m_exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, 4711, value); };
-    orv::test::DebugEvents events;
+    DebugEvents events;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_NE(std::string::npos, events.text().find("there is no control 4711"));
     EXPECT_EQ(3, value);

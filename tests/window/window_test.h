@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "support/debug_events.h"
+#include "support/message_boxes.h"
+
+inline CWinApp& theApp = orv::test::messageKeepingApp;
 
 // Dialogs of window_test.rc.
 #define IDD_FIELDS 101
