@@ -54,9 +54,18 @@ struct ORVFC_API OUTBAR_INFO {
 // drag without a drop. A drop sends no message. A disabled bar takes neither presses nor hovers.
 //
 // Keyboard (the bar is a tab stop): up and down walk headers and items as they stand, Home, End and the page
-// keys go further, Enter opens a folder (open already, its child window gets the focus) or clicks an item, F2
-// renames, Delete removes, Insert adds an item to the open folder, behind the current one, Ctrl+Insert a
-// folder; their names are then typed.
+// keys go further, Enter opens a folder (open already, its child window gets the focus) or clicks an item,
+// once however long it is held, F2 renames, Delete removes, Insert adds an item to the open folder, behind
+// the current one, Ctrl+Insert a folder; their names are then typed. Tab goes from the bar to the open
+// folder's child window, if it is a tab stop or has WS_EX_CONTROLPARENT and one in it, and on as the parent's
+// dialog has it; Shift+Tab comes back from there to the bar, but from what follows the bar it passes the
+// child over. When its folder closes, the bar takes the focus from it.
+//
+// What child windows of folders tell this window goes on to its parent as it is, and the answer back to them:
+// WM_COMMAND, WM_NOTIFY, owner-draw, WM_CTLCOLOR... and scroll bar messages, and those of the library's
+// pickers. Give them identifiers that the parent's other controls do not have. Handlers of a derived class
+// come first and keep what they handle. The child's own object hears by reflection, once: from the parent if
+// that is a CWnd, but from here if a derived class has a handler. The parent may destroy the bar meanwhile.
 //
 // Context menu (right button, menu key): the notified window, or else the parent, gets WM_CONTEXTMENU with
 // this window and a screen position which HitTestEx recognises; an item under it has been selected before,
@@ -215,11 +224,16 @@ public:
     bool StartGroupEdit(int folder);
     bool StartItemEdit(int item);
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
     void AssertValid() const override;
     void Dump(CDumpContext& dc) const override;
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     // --- painting
     void Paint(CDC& dc, const CRect& rcPart) const;
@@ -277,6 +291,9 @@ private:
     void ShowChild() const;
     void AdoptChild(int nFolder) const;
     HWND ChildOf(int nFolder) const;
+    void LeaveChild();
+    HWND TabStop() const;
+    void EnterChild();
     void BeforeChange(bool bRows);
     void LetGo() const;
     void TakeSystemColors(bool bAll);
@@ -323,6 +340,7 @@ private:
 
     bool StartEdit(const CRect& rect, const CString& text, DWORD dwStyle);
     void EndRename(bool bTake);
+    HBRUSH RenameColors(CDC& dc);
 
     COLORREF m_crTaken[9]; // the system's, when they were last taken over
 

@@ -79,7 +79,9 @@ bool CGfxOutBarCtrl::RemoveFolder(int folder) {
     if (!m_pFolders->folder(folder))
         return false;
     BeforeChange(true);
-    if (!m_pFolders->folder(folder)) // taking a rename may call the host
+    if (folder == m_nSelFolder)
+        LeaveChild();
+    if (!m_pFolders->folder(folder)) // both may have called the host
         return false;
     if (HWND hChild = ChildOf(folder))
         ::ShowWindow(hChild, SW_HIDE);
@@ -98,6 +100,7 @@ bool CGfxOutBarCtrl::RemoveFolder(int folder) {
 
 void CGfxOutBarCtrl::RemoveAllFolder() {
     BeforeChange(true);
+    LeaveChild();
     for (int i = 0; i < GetFolderCount(); ++i)
         if (HWND hChild = ChildOf(i))
             ::ShowWindow(hChild, SW_HIDE);
@@ -125,6 +128,7 @@ bool CGfxOutBarCtrl::SetSelFolder(int folder) {
     if (folder == m_nSelFolder)
         return true;
     BeforeChange(false);
+    LeaveChild();
     if (!m_pFolders->folder(folder))
         return false;
     if ((m_dwFlags & OUTBAR_ANIMATE) && m_hWnd && ::IsWindowVisible(m_hWnd))
@@ -157,63 +161,9 @@ CString CGfxOutBarCtrl::GetFolderName(int folder) const {
     return row ? row->name : CString();
 }
 
-// The handle alone proves nothing: it may have gone to another window since.
-HWND CGfxOutBarCtrl::ChildOf(int nFolder) const {
-    const OutBarFolder* row = m_pFolders->folder(nFolder);
-    if (!row || !row->child || !::IsWindow(row->child))
-        return NULL;
-    return !m_hWnd || ::GetAncestor(row->child, GA_PARENT) == m_hWnd ? row->child : NULL;
-}
-
-void CGfxOutBarCtrl::AdoptChild(int nFolder) const {
-    const OutBarFolder* row = m_pFolders->folder(nFolder);
-    // This window and those around it cannot be its children.
-    if (!m_hWnd || !row || !::IsWindow(row->child) || row->child == m_hWnd || ::IsChild(row->child, m_hWnd))
-        return;
-    ::ShowWindow(row->child, SW_HIDE);
-    if (::GetAncestor(row->child, GA_PARENT) == m_hWnd)
-        return;
-    // A top-level window stays one for the system until its style says otherwise.
-    CWnd::FromHandle(row->child)->ModifyStyle(WS_POPUP, WS_CHILD);
-    ::SetParent(row->child, m_hWnd);
-}
-
-CWnd* CGfxOutBarCtrl::GetFolderChild(int folder) const {
-    return CWnd::FromHandle(ChildOf(folder));
-}
-
 DWORD_PTR CGfxOutBarCtrl::GetFolderData(int folder) const {
     const OutBarFolder* row = m_pFolders->folder(folder);
     return row ? row->data : 0;
-}
-
-// Only the open folder's child is seen, between the headers.
-void CGfxOutBarCtrl::ShowChild() const {
-    if (!m_hWnd)
-        return;
-    for (int i = 0; i < GetFolderCount(); ++i) {
-        const HWND hChild = ChildOf(i);
-        if (hChild && i != m_nSelFolder)
-            ::ShowWindow(hChild, SW_HIDE);
-    }
-    if (const HWND hChild = ChildOf(m_nSelFolder)) {
-        CRect rect;
-        GetInsideRect(rect);
-        ::SetWindowPos(hChild, NULL, rect.left, rect.top, std::max(0, rect.Width()),
-                       std::max(0, rect.Height()),
-                       SWP_NOZORDER | SWP_NOACTIVATE | (m_bAnimating ? SWP_HIDEWINDOW : SWP_SHOWWINDOW));
-    }
-}
-
-// A child that its owner destroys leaves its folder empty.
-void CGfxOutBarCtrl::OnParentNotify(UINT message, LPARAM lParam) {
-    CWnd::OnParentNotify(message, lParam);
-    if (LOWORD(message) != WM_DESTROY)
-        return;
-    for (const auto& row : m_pFolders->rows)
-        if (row->child == reinterpret_cast<HWND>(lParam))
-            row->child = NULL;
-    Invalidate(FALSE);
 }
 
 // --- image lists

@@ -9,8 +9,9 @@
 #include <algorithm>
 
 UINT CGfxOutBarCtrl::OnGetDlgCode() {
-    // Enter is for the current row, not for the dialog's default button. wParam is the key asked about.
-    return DLGC_WANTARROWS | (GetCurrentMessage()->wParam == VK_RETURN ? DLGC_WANTMESSAGE : 0);
+    // Enter is for the current row, not for the dialog's default button; Tab for a window in the folder.
+    const WPARAM key = GetCurrentMessage()->wParam; // the one asked about
+    return DLGC_WANTARROWS | (key == VK_RETURN || (key == VK_TAB && TabStop()) ? DLGC_WANTMESSAGE : 0);
 }
 
 void CGfxOutBarCtrl::OnSetFocus(CWnd* pOldWnd) {
@@ -100,11 +101,12 @@ void CGfxOutBarCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
         UINT key;
         void (CGfxOutBarCtrl::*action)();
     } keys[] = {{VK_RETURN, &CGfxOutBarCtrl::OpenCurrentRow},
+                {VK_TAB, &CGfxOutBarCtrl::EnterChild},
                 {VK_F2, &CGfxOutBarCtrl::RenameCurrentRow},
                 {VK_DELETE, &CGfxOutBarCtrl::RemoveCurrentRow},
                 {VK_INSERT, &CGfxOutBarCtrl::AddEntry}};
     MarkCurrentRow(true);
-    if (Walk(nChar))
+    if (Walk(nChar) || (nChar == VK_RETURN && (nFlags & KF_REPEAT))) // held it is still one click
         return;
     for (const auto& key : keys) {
         if (key.key == nChar) {

@@ -91,11 +91,9 @@ LRESULT CGfxOutBarCtrl::OnEndLabelEdit(WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
-HBRUSH CGfxOutBarCtrl::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-    if (!m_hEdit || pWnd->GetSafeHwnd() != m_hEdit)
-        return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
-    pDC->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-    pDC->SetBkColor(m_crWindow2);
+HBRUSH CGfxOutBarCtrl::RenameColors(CDC& dc) {
+    dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    dc.SetBkColor(m_crWindow2);
     m_brEdit.DeleteObject();
     m_brEdit.CreateSolidBrush(m_crWindow2);
     return m_brEdit;

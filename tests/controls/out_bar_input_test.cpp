@@ -330,6 +330,8 @@ TEST_F(OutBarInput, TheKeyboardWalksOpensRenamesAndRemoves) {
     pressKey(VK_DOWN);
     ASSERT_TRUE(keyUntil(VK_RETURN, clicked(1)));
     EXPECT_EQ(100u, bar.GetCurrentItemData());
+    bar.SendMessage(WM_KEYDOWN, VK_RETURN, 1 | KF_REPEAT << 16);
+    EXPECT_EQ(1, host.clicks) << "held it is one click";
     pressKey(VK_END);
     pressKey(VK_UP);
     ASSERT_TRUE(keyUntil(VK_RETURN, clicked(2)));
