@@ -139,23 +139,6 @@ TEST_F(OutBarRename, TypedTextArrives) {
     int first, last;
     bar.GetVisibleRange(0, first, last);
     EXPECT_TRUE(first <= 15 && 15 <= last) << "the item was scrolled into view";
-    // Clicking beside the field takes its text.
-    Steps()
-        .then([&] { bar.StartGroupEdit(1); })
-        .when([&] { return ::GetParent(::GetFocus()) == bar.m_hWnd; }, [] { typeText(L"b"); })
-        .then([&] { click(host.other); })
-        .run([&] { return bar.GetFolderName(1) == "b"; });
-}
-
-TEST_F(OutBarRename, TextsOfAnyLength) {
-    start(true, "")->EndEdit(true);
-    EXPECT_STREQ("1", bar.GetItemText(1)) << "an empty text is not taken";
-    const CString longText('x', 10000);
-    start(true, longText)->EndEdit(true);
-    EXPECT_EQ(longText, bar.GetItemText(1));
-    start(false, longText)->EndEdit(true);
-    EXPECT_EQ(longText, bar.GetFolderName(1));
-    bar.UpdateWindow();
 }
 
 TEST_F(OutBarRename, NothingToRename) {
@@ -163,6 +146,8 @@ TEST_F(OutBarRename, NothingToRename) {
         EXPECT_FALSE(bar.StartGroupEdit(index));
         EXPECT_EQ(index == 2, bar.StartItemEdit(index));
     }
+    start(true, "")->EndEdit(true);
+    EXPECT_STREQ("1", bar.GetItemText(1)) << "an empty text is not taken";
     host.other.SetFocus();
     // Anybody may send the message.
     CGfxGroupEdit* edit = start(true, "neu");
