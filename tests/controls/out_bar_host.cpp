@@ -2,12 +2,9 @@
 
 #include "support/paper.h"
 
-using namespace orv::test;
+#include <windowsx.h>
 
-BEGIN_MESSAGE_MAP(CBarHost, CWnd)
-ON_REGISTERED_MESSAGE(WM_GFX_OUTBAR_LBUTTON_DOWN, &CBarHost::OnClick)
-ON_WM_CONTEXTMENU()
-END_MESSAGE_MAP()
+using namespace orv::test;
 
 bool CBarHost::make(DWORD flags) {
     if (!CreateEx(0, AfxRegisterWndClass(0, NULL, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1)), "host",
@@ -94,19 +91,18 @@ bool CBarHost::shows(int x, int y, COLORREF color) const {
     });
 }
 
-LRESULT CBarHost::OnClick(WPARAM wParam, LPARAM lParam) {
-    EXPECT_EQ(0u, wParam);
-    EXPECT_EQ(0, lParam);
-    ++clicks;
-    if (onClick)
-        onClick();
-    return 0;
-}
-
-void CBarHost::OnContextMenu(CWnd* pWnd, CPoint point) {
-    EXPECT_EQ(bar.m_hWnd, pWnd->GetSafeHwnd());
-    ++menus;
-    menuAt = point;
+LRESULT CBarHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_GFX_OUTBAR_LBUTTON_DOWN) {
+        EXPECT_TRUE(wParam == 0 && lParam == 0);
+        ++clicks;
+        if (onClick)
+            onClick();
+    } else if (message == WM_CONTEXTMENU) {
+        EXPECT_EQ(reinterpret_cast<WPARAM>(bar.m_hWnd), wParam);
+        ++menus;
+        menuAt = CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
 }
 
 // --- steps

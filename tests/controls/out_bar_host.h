@@ -54,9 +54,7 @@ public:
     bool shows(int x, int y, COLORREF color) const;
 
 protected:
-    afx_msg LRESULT OnClick(WPARAM wParam, LPARAM lParam);
-    afx_msg void OnContextMenu(CWnd*, CPoint point);
-    DECLARE_MESSAGE_MAP()
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
 // Steps of a user: each one's action follows when its condition holds. They are taken by a timer, so that

@@ -79,17 +79,15 @@ public:
     HWND edit = NULL;
 
 protected:
-    afx_msg void OnSetFocus(CWnd*) {
-        ::SendMessageA(edit, WM_CHAR, VK_RETURN, 0);
-        ::SendMessageA(edit, WM_CLOSE, 0, 0);
-        ::DestroyWindow(edit);
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_SETFOCUS) {
+            ::SendMessageA(edit, WM_CHAR, VK_RETURN, 0);
+            ::SendMessageA(edit, WM_CLOSE, 0, 0);
+            ::DestroyWindow(edit);
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
     }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(CHasty, CWnd)
-ON_WM_SETFOCUS()
-END_MESSAGE_MAP()
 
 TEST_F(OutBarRename, AllEndsTogether) {
     CHasty hasty;

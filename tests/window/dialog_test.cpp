@@ -331,13 +331,10 @@ public:
     std::function<INT_PTR()> m_open;
 
 protected:
-    afx_msg LRESULT OnOpen(WPARAM, LPARAM) { return m_open(); }
-    DECLARE_MESSAGE_MAP()
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return message == WM_USER ? m_open() : CHiddenWnd::WindowProc(message, wParam, lParam);
+    }
 };
-
-BEGIN_MESSAGE_MAP(COpeningWnd, CWnd)
-ON_MESSAGE(WM_USER, &COpeningWnd::OnOpen)
-END_MESSAGE_MAP()
 
 TEST(Dialog, WhatPreTranslateMessageThrowsEndsTheLoopAndTheWindow) {
     orv::test::DebugEvents events;

@@ -111,51 +111,40 @@ TEST_F(Exchange, LimitsAreAllowedValues) {
 }
 
 TEST_F(Exchange, ButtonsListsAndBars) {
-    auto both = [&](auto& value, auto exchange, auto shown, std::function<void()> change, auto expected) {
-        dialog.m_exchange = [&](CDataExchange* pDX) { exchange(pDX, value); };
-        value = shown;
+    // What is shown comes back, and after a change the other value does.
+    const auto both = [&](auto exchange, int id, auto shown, auto changed, std::function<void()> change) {
+        auto value = shown;
+        dialog.m_exchange = [&](CDataExchange* pDX) { exchange(pDX, id, value); };
         EXPECT_TRUE(dialog.UpdateData(FALSE));
         EXPECT_TRUE(dialog.UpdateData(TRUE));
-        EXPECT_EQ(shown, value);
+        EXPECT_EQ(shown, value) << id;
         change();
         EXPECT_TRUE(dialog.UpdateData(TRUE));
-        EXPECT_EQ(expected, value);
+        EXPECT_EQ(changed, value) << id;
+    };
+    const auto send = [&](int id, UINT message, WPARAM wParam) {
+        return [=, this] { dialog.SendDlgItemMessage(id, message, wParam); };
     };
     for (const char* text : {"一", "二", "三"}) {
         dialog.SendDlgItemMessage(IDC_COMBO, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
         dialog.SendDlgItemMessage(IDC_DROPLIST, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
         dialog.SendDlgItemMessage(IDC_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
     }
-    int n = 0;
-    CString s;
-    both(
-        n, [](CDataExchange* d, int& v) { DDX_Check(d, IDC_CHECK, v); }, 1,
-        [&] { dialog.CheckDlgButton(IDC_CHECK, 0); }, 0);
-    auto radio = [](CDataExchange* d, int& v) { DDX_Radio(d, IDC_RADIO1, v); };
-    both(
-        n, radio, -1, [&] { dialog.CheckRadioButton(IDC_RADIO1, IDC_RADIO3, IDC_RADIO3); }, 2);
-    both(
-        n, radio, 1, [&] { dialog.CheckRadioButton(IDC_RADIO1, IDC_RADIO3, IDC_RADIO1); }, 0);
+    both(DDX_Check, IDC_CHECK, 1, 0, [&] { dialog.CheckDlgButton(IDC_CHECK, 0); });
+    const auto radio = [&](int id) {
+        return [=, this] { dialog.CheckRadioButton(IDC_RADIO1, IDC_RADIO3, id); };
+    };
+    both(DDX_Radio, IDC_RADIO1, -1, 2, radio(IDC_RADIO3));
+    both(DDX_Radio, IDC_RADIO1, 1, 0, radio(IDC_RADIO1));
     EXPECT_EQ(IDC_RADIO1, dialog.GetCheckedRadioButton(IDC_RADIO1, IDC_RADIO3));
-    both(
-        n, [](CDataExchange* d, int& v) { DDX_CBIndex(d, IDC_COMBO, v); }, 2,
-        [&] { dialog.SendDlgItemMessage(IDC_COMBO, CB_SETCURSEL, 0); }, 0);
-    both(
-        n, [](CDataExchange* d, int& v) { DDX_LBIndex(d, IDC_LIST, v); }, -1,
-        [&] { dialog.SendDlgItemMessage(IDC_LIST, LB_SETCURSEL, 1); }, 1);
-    both(
-        s, [](CDataExchange* d, CString& v) { DDX_CBString(d, IDC_COMBO, v); }, CString("不在表中"),
-        [&] { dialog.SetDlgItemText(IDC_COMBO, "键入"); }, CString("键入"));
-    both(
-        s, [](CDataExchange* d, CString& v) { DDX_CBString(d, IDC_DROPLIST, v); }, CString("二"),
-        [&] { dialog.SendDlgItemMessage(IDC_DROPLIST, CB_SETCURSEL, 2); }, CString("三"));
-    both(
-        s, [](CDataExchange* d, CString& v) { DDX_LBString(d, IDC_LIST, v); }, CString("三"),
-        [&] { dialog.SendDlgItemMessage(IDC_LIST, LB_SETCURSEL, static_cast<WPARAM>(-1)); }, CString());
+    both(DDX_CBIndex, IDC_COMBO, 2, 0, send(IDC_COMBO, CB_SETCURSEL, 0));
+    both(DDX_LBIndex, IDC_LIST, -1, 1, send(IDC_LIST, LB_SETCURSEL, 1));
+    both(DDX_CBString, IDC_COMBO, CString("不在表中"), CString("键入"),
+         [&] { dialog.SetDlgItemText(IDC_COMBO, "键入"); });
+    both(DDX_CBString, IDC_DROPLIST, CString("二"), CString("三"), send(IDC_DROPLIST, CB_SETCURSEL, 2));
+    both(DDX_LBString, IDC_LIST, CString("三"), CString(), send(IDC_LIST, LB_SETCURSEL, WPARAM(-1)));
     dialog.GetDlgItem(IDC_SCROLL)->SetScrollRange(SB_CTL, 0, 50);
-    both(
-        n, [](CDataExchange* d, int& v) { DDX_Scroll(d, IDC_SCROLL, v); }, 20,
-        [&] { dialog.GetDlgItem(IDC_SCROLL)->SetScrollPos(SB_CTL, 7); }, 7);
+    both(DDX_Scroll, IDC_SCROLL, 20, 7, [&] { dialog.GetDlgItem(IDC_SCROLL)->SetScrollPos(SB_CTL, 7); });
 }
 
 TEST_F(Exchange, ControlsAreTakenOverOnceAndTheRestIsTold) {
