@@ -2,6 +2,8 @@
 
 #include <climits>
 
+extern "C" double distanceFromC();
+
 namespace {
 
 struct Distances {
@@ -34,6 +36,7 @@ TEST(Measures, DistancesFromAPoint) {
     EXPECT_TRUE(std::isnan(GetDistFromPointToLineSegment(0, NAN, 0, 0, 1, 0)));
     EXPECT_TRUE(std::isnan(GetDistFromPointToLinePer(0, NAN, 0, 0, 1, 0)));
     EXPECT_EQ(GetDistance(0, 0, -inf, 0), inf);
+    EXPECT_EQ(distanceFromC(), 5);
 }
 
 TEST(Measures, PerpendicularFoot) {
@@ -123,34 +126,24 @@ struct Nearest {
 };
 
 TEST(Measures, NearestValue) {
-    // Twice 1e308 is beyond the range.
-    const Nearest rows[] = {{1.234567, -5, 1.23457},
-                            {-1.234567, -5, -1.23457},
-                            {1.234567, 0, 1},
-                            {0.1 + 0.2, -5, 0.3},
-                            {14, 1, 10},
-                            {15, 1, 20},
-                            {-15, 1, -20},
-                            {-25, 1, -30},
-                            {2.5, 0, 3},
-                            {-2.5, 0, -3},
-                            {0.125, -2, 0.13},
-                            {0.49999999999999994, 0, 0},
-                            {123456789, 3, 123457000},
-                            {4, 1, 0},
-                            {1e300, -5, 1e300},
-                            {1234.5, -308, 1234.5},
-                            {1234.5, -309, 1234.5},
-                            {1234.5, INT_MIN, 1234.5},
-                            {1e308, 309, 0},
-                            {1.234e-199, -202, 1.234e-199},
-                            {6e199, 200, 1e200},
-                            {1e308, INT_MAX, 0},
-                            {6e307, 308, 1e308},
-                            {1.7e308, 308, 1.7e308},
-                            {4503599627370497.0, 0, 4503599627370497.0},
-                            {inf, -5, inf},
-                            {-inf, 400, -inf}};
+    const double whole = 4503599627370497.0;         // 2^52 + 1: no fraction is left there
+    const double underHalf = std::nextafter(0.5, 0); // twice 1e308, below, is beyond the range
+    const Nearest rows[] = {
+        {1.23456, -4, 1.2346}, {-1.2346, -3, -1.235},
+        {1.23456, 0, 1},       {0.1 + 0.2, -5, 0.3},
+        {14, 1, 10},           {15, 1, 20},
+        {-15, 1, -20},         {-25, 1, -30},
+        {2.5, 0, 3},           {-2.5, 0, -3},
+        {0.125, -2, 0.13},     {underHalf, 0, 0},
+        {123456, 3, 123000},   {4, 1, 0},
+        {1e300, -5, 1e300},    {1.5, -308, 1.5},
+        {1.5, -309, 1.5},      {1.5, INT_MIN, 1.5},
+        {1e308, 309, 0},       {4e-200, -200, 4e-200},
+        {6e199, 200, 1e200},   {1e308, INT_MAX, 0},
+        {6e307, 308, 1e308},   {1.7e308, 308, 1.7e308},
+        {whole, 0, whole},     {inf, -5, inf},
+        {-inf, 400, -inf},
+    };
     for (const auto& r : rows)
         EXPECT_EQ(GetNearestValue(r.value, r.power), r.result) << r.value << " to 10^" << r.power;
     EXPECT_TRUE(std::isnan(GetNearestValue(NAN, -5)));
