@@ -78,16 +78,6 @@ TEST(Curve, FinishStartsOverAndAFailedWalkDoesNotFinish) {
     EXPECT_EQ(1, COrvDrawCurve().FinishDraw()) << "needs no pattern";
 }
 
-TEST(Curve, TwoCurvesContinueOnePattern) {
-    COrvDrawDashDash dash;
-    COrvDrawCurve first(&dash);
-    first.LineTo(10, 0);
-    COrvDrawCurve second(&dash);
-    EXPECT_EQ(8, dash.GetLength(0));
-    second.LineTo(8, 0);
-    EXPECT_EQ(1, second.m_nIndex);
-}
-
 TEST(PathData, CopiesAreDeep) {
     COrvGPathData path;
     EXPECT_EQ(0, path.m_nCount);

@@ -10,6 +10,7 @@
 
 #include "stored.h"
 #include "support/message_boxes.h"
+#include "support/scratch_folder.h"
 
 #include <direct.h>
 
@@ -30,26 +31,20 @@ class LineTypeFiles : public testing::Test {
 protected:
     void SetUp() override {
         ::GetCurrentDirectoryA(sizeof(before_), before_);
-        _mkdir(kName);
-        ASSERT_TRUE(::SetCurrentDirectoryA(kName));
+        const CString own = folder_.path("誠");
+        _mkdir(own);
+        ASSERT_TRUE(::SetCurrentDirectoryA(own));
         _mkdir("sub");
         takeMessages();
     }
     void TearDown() override {
-        for (const char* file : {"sub\\x.lin", "x.lin", "誠", "orvDrawType.lin"})
-            remove(file);
         remove(defaultFile());
-        _rmdir("sub");
         ::SetCurrentDirectoryA(before_);
-        _rmdir(kName);
     }
     static CString defaultFile() { return CSysInfo::GetAppPath() + "orvDrawType.lin"; }
 
     static void write(const char* name, const std::string& bytes) {
-        FILE* file = fopen(name, "wb");
-        ASSERT_TRUE(file);
-        fwrite(bytes.data(), 1, bytes.size(), file);
-        fclose(file);
+        std::ofstream(name, std::ios::binary) << bytes;
     }
     static std::string onePattern(int type) {
         COrvDrawBasicDash base;
@@ -57,7 +52,7 @@ protected:
     }
 
 private:
-    static constexpr const char* kName = "line_type_file_誠";
+    ScratchFolder folder_;
     char before_[MAX_PATH];
 };
 

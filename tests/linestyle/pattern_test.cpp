@@ -2,34 +2,18 @@
 
 #include <afx.h>
 
-#include <orvfc/linestyle/OrvGraphic.h>
+#include <orvfc/linestyle/LineProperBar.h>
 
 #include <gtest/gtest.h>
 
 #include "sheet.h"
 
 #include <limits>
-#include <memory>
 
 using orv::test::Seen;
 using orv::test::Sheet;
 
 namespace {
-
-std::unique_ptr<COrvDrawBasicDash> makeDash(int type, HDC dc) {
-    switch (type) {
-    case 1:
-        return std::make_unique<COrvDrawDashDash>(dc);
-    case 2:
-        return std::make_unique<COrvDrawDashDot>(dc);
-    case 3:
-        return std::make_unique<COrvDrawDashDotDot>(dc);
-    case 4:
-        return std::make_unique<COrvDrawDashDotDotTwice>(dc);
-    default:
-        return std::make_unique<COrvDrawBasicDash>(dc);
-    }
-}
 
 TEST(Pattern, OnAndOffAlongALine) {
     struct {
@@ -45,10 +29,13 @@ TEST(Pattern, OnAndOffAlongALine) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
         Sheet sheet;
-        auto dash = makeDash(row.type, sheet.dc());
+        COrvDrawManage set;
+        set.InitToGerApp();
+        COrvDrawBasicDash* dash = set.GetDashFromType(row.type);
+        dash->m_hDC = sheet.dc();
         EXPECT_EQ(row.type, dash->GetDashType());
         EXPECT_EQ(1, dash->GetDrawType());
-        COrvDrawCurve curve(dash.get());
+        COrvDrawCurve curve(dash);
         EXPECT_EQ(1, curve.MoveTo(0, 7));
         EXPECT_EQ(1, curve.LineTo(row.to, 7));
         Seen expected;
@@ -57,30 +44,6 @@ TEST(Pattern, OnAndOffAlongALine) {
                                ",7 w1 000000");
         EXPECT_EQ(expected, sheet.take());
     }
-}
-
-template <class Dash>
-std::string kindsAlong(int pieces) {
-    Sheet sheet;
-    Dash dash(sheet.dc());
-    dash.m_nStyle1 = dash.m_nStyle0; // gaps that can be seen
-    dash.m_crColor0 = 0;
-    dash.m_crColor1 = 1;
-    if constexpr (requires { dash.m_crColor2; })
-        dash.m_crColor2 = 2;
-    for (int i = 0; i < pieces; ++i)
-        dash.DrawDash(0, 0, dash.GetLength(i), 0, i);
-    std::string kinds;
-    for (const std::string& stroke : sheet.take())
-        kinds += stroke.back();
-    return kinds;
-}
-
-TEST(Pattern, PensByPhase) {
-    EXPECT_EQ("01010", kindsAlong<COrvDrawDashDash>(5));
-    EXPECT_EQ("01010", kindsAlong<COrvDrawDashDot>(5));
-    EXPECT_EQ("01210121", kindsAlong<COrvDrawDashDotDot>(8));
-    EXPECT_EQ("0121210121", kindsAlong<COrvDrawDashDotDotTwice>(10));
 }
 
 TEST(Pattern, LessThanAHundredthCountsAsDone) {
@@ -195,8 +158,9 @@ TEST(Pattern, ANewFigureAfterADashStrokesToTheZeroPoint) {
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.type << " after " << row.pieces);
         Sheet sheet;
-        auto dash = makeDash(row.type, NULL);
-        dash->SetLineProperty(3, 0x0000FF);
+        COrvDrawManage set;
+        set.InitToGerApp();
+        COrvDrawBasicDash* dash = set.GetDashFromType(row.type, 3, 0x0000FF);
         for (int i = 0; i < row.pieces; ++i)
             dash->DrawDash(0, 0, 9, 8, i);
         dash->m_hDC = sheet.dc();
@@ -333,17 +297,6 @@ TEST(Pattern, HarmlessWithAnyNumbers) {
             }
         }
     }
-}
-
-TEST(Pattern, CopiesCarryThePhaseAndTheCopyIsOfItsOwn) {
-    COrvDrawDashDash dash;
-    dash.DrawDash(0, 0, 10, 0, 0);
-    COrvDrawDashDash copy(dash);
-    dash.DrawDash(10, 0, 18, 0, 0);
-    EXPECT_EQ(8, copy.m_dRemain);
-    EXPECT_EQ(10, copy.m_ptLastB.x);
-    copy = dash;
-    EXPECT_EQ(5, copy.m_dRemain);
 }
 
 TEST(Pattern, TheBaseDrawsNoLine) {

@@ -205,24 +205,6 @@ TEST(LineTypeFile, LoadsWhatItKnowsAndStaysAsItWasOtherwise) {
     }
 }
 
-TEST(LineTypeFile, SetsAreStoredAsObjects) {
-    COrvDrawManage set;
-    set.m_strName = "N";
-    CMemFile file;
-    CArchive out(&file, CArchive::store);
-    out << &set << &set;
-    out.Close();
-    file.SeekToBegin();
-    CArchive in(&file, CArchive::load);
-    COrvDrawManage* loaded = NULL;
-    COrvDrawManage* again = NULL;
-    in >> loaded >> again;
-    std::unique_ptr<COrvDrawManage> owned(loaded);
-    ASSERT_TRUE(loaded);
-    EXPECT_EQ(loaded, again);
-    EXPECT_STREQ("N", loaded->m_strName);
-}
-
 TEST(Manager, FindsPatternsByTypeUntilItIsEmptied) {
     COrvDrawManage set;
     EXPECT_EQ(NULL, set.GetDashFromType(1, 3, 0x0000FF));
