@@ -142,17 +142,6 @@ TEST(FourPointIntPlaces, HalvesAreCutTowardZero) {
     EXPECT_EQ(sides(r), Ltrb(2, 25, 8, 25));
 }
 
-TEST(FourPointIntPlaces, AnUprightMiddleReadsBackOnBothSidesOfZero) {
-    for (int from = -9; from <= 9; ++from)
-        for (int to = -9; to <= 9; ++to)
-            for (int w = -5; w <= 5; ++w) {
-                CFPRect r(from, 0, from + w, 5, 0);
-                r.PositionBottomMid(CPoint(to, 3));
-                EXPECT_EQ(Xy(r.GetBottomMid()), Xy(to, 3)) << r;
-                EXPECT_EQ(r.GetWidth(), w) << r;
-            }
-}
-
 TYPED_TEST(FourPointPlaces, FromPoints) {
     const TypeParam flat(0, 0, 0, 10, 20, 10, 20, 0);
     EXPECT_EQ(sides(flat), Ltrb(0, 0, 20, 10));

@@ -211,26 +211,15 @@ TEST(DateSteps, NominalDaysAndLargerUnits) {
         EXPECT_EQ(-3 * days[unit], Format::GetUnitDays(unit, -3, NAN));
         EXPECT_EQ(most[unit], Format().GetUnitMaxCount(unit));
     }
+    const int least = INT_MIN;
     EXPECT_EQ(INT_MAX, Format::GetUnitDays(4, INT_MAX, 0));
-    EXPECT_EQ(INT_MIN, Format::GetUnitDays(0, INT_MIN, 0));
+    EXPECT_EQ(least, Format::GetUnitDays(0, least, 0));
     const struct {
         int unit, n, largerUnit, largerN;
-    } rows[] = {{5, 14, 4, 2},
-                {5, 15, 5, 15},
-                {5, 365, 5, 365},
-                {4, 52, 4, 52},
-                {3, 36, 0, 1},
-                {3, 9, 1, 1},
-                {3, 6, 2, 2},
-                {2, 30, 1, 10},
-                {2, -24, 0, -2},
-                {1, 4, 0, 1},
-                {0, 8, 0, 8},
-                {2, 0, 2, 0},
-                {6, 12, 6, 12},
-                {-1, 12, -1, 12},
-                {2, INT_MIN, 2, INT_MIN},
-                {1, INT_MIN, 0, INT_MIN / 4}};
+    } rows[] = {{5, 14, 4, 2},   {5, 15, 5, 15},   {5, 365, 5, 365},     {4, 52, 4, 52},
+                {3, 36, 0, 1},   {3, 9, 1, 1},     {3, 6, 2, 2},         {2, 30, 1, 10},
+                {2, -24, 0, -2}, {1, 4, 0, 1},     {0, 8, 0, 8},         {2, 0, 2, 0},
+                {6, 12, 6, 12},  {-1, 12, -1, 12}, {2, least, 2, least}, {1, least, 0, least / 4}};
     for (const auto& row : rows) {
         int unit = row.unit;
         int n = row.n;

@@ -7,17 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include <stdio.h>
 #include <string>
 
-#if defined(_WIN32)
-#include <direct.h>
-#else
-#include <sys/stat.h>
-#include <unistd.h>
-#define _mkdir(name) mkdir(name, 0700)
-#define _rmdir rmdir
-#endif
+#include "support/scratch_folder.h"
 
 namespace {
 
@@ -107,21 +99,14 @@ TEST(FileNames, Validate) {
 }
 
 TEST(FileNames, LooksOnTheDisk) {
-    const CString directory = "file_name_test_directory";
-    const CString file = directory + "/file";
-    EXPECT_FALSE(IsFileExist(directory));
-    EXPECT_FALSE(IsDirectoryExist(directory));
-    ASSERT_EQ(0, _mkdir(directory));
-    FILE* stream = fopen(file, "w");
-    ASSERT_TRUE(stream);
-    fclose(stream);
-    EXPECT_TRUE(IsFileExist(directory));
-    EXPECT_TRUE(IsDirectoryExist(directory));
+    const orv::test::ScratchFolder folder;
+    const CString file = folder.write("file", "");
+    for (const CString& none : {CString(), folder.path("none")})
+        EXPECT_FALSE(IsFileExist(none) || IsDirectoryExist(none)) << none;
+    EXPECT_TRUE(IsFileExist(folder.path()));
+    EXPECT_TRUE(IsDirectoryExist(folder.path()));
     EXPECT_TRUE(IsFileExist(file));
     EXPECT_FALSE(IsDirectoryExist(file));
-    remove(file);
-    _rmdir(directory);
-    EXPECT_FALSE(IsFileExist(""));
 }
 
 } // namespace

@@ -208,31 +208,15 @@ TYPED_TEST(RegistryValues, Points) {
 TYPED_TEST(RegistryValues, ReadOnlyStoresRefuse) {
     TypeParam store = this->template opened<TypeParam>(1);
     store.m_Info = {77, 88, 99};
-    CStringList list;
-    CByteArray raw;
-    CStringArray texts;
-    CDWordArray numbers;
-    CWordArray words;
-    CObList objects;
-    Parcel parcel;
-    CObject& object = parcel;
-    CRect rect;
+    CRect rect; // one of those that are stored as streams
     POINT point = {}, *pPoint = &point;
     BYTE byte = 0;
     EXPECT_FALSE(store.Write("a", 1));
-    EXPECT_FALSE(store.Write("a", 1ul));
     EXPECT_FALSE(store.Write("a", "text"));
     EXPECT_FALSE(store.Write("a", static_cast<const char*>(NULL)));
     EXPECT_FALSE(store.Write("a", &byte, 1));
-    EXPECT_FALSE(store.Write("a", list));
-    EXPECT_FALSE(store.Write("a", raw));
-    EXPECT_FALSE(store.Write("a", texts));
-    EXPECT_FALSE(store.Write("a", numbers));
-    EXPECT_FALSE(store.Write("a", words));
     EXPECT_FALSE(store.Write("a", rect));
     EXPECT_FALSE(store.Write("a", pPoint));
-    EXPECT_FALSE(store.Write("a", objects));
-    EXPECT_FALSE(store.Write("a", object));
     EXPECT_FALSE(store.CreateKey("a"));
     this->expectInfo(store, 77, 88, 99);
     EXPECT_EQ(0u, this->valueCount());
@@ -257,7 +241,7 @@ TYPED_TEST(RegistryValues, LongCollections) {
     EXPECT_EQ(ERROR_MORE_DATA, store.m_Info.lResult);
 }
 
-// Values of every bad kind, read as every kind of stream.
+// Values of every bad kind, by every way of reading a stream.
 TYPED_TEST(RegistryValues, HostileValues) {
     TypeParam store = this->template opened<TypeParam>();
     const std::vector<BYTE> ones(0x10000, 0xFF);
@@ -265,26 +249,15 @@ TYPED_TEST(RegistryValues, HostileValues) {
         DWORD type;
         std::vector<BYTE> bytes;
     } rows[] = {
-        {REG_BINARY, ones},
-        {REG_BINARY, {ones.begin(), ones.begin() + 4096}},
-        {REG_BINARY, {ones.begin(), ones.begin() + 14}},
-        {REG_BINARY, {}},
-        {REG_BINARY, {1}},
-        {REG_BINARY, {5, 0, 1, 1}},
-        {REG_BINARY, {0xFE, 0xFF, 0, 0, 0, 0, 0}},
-        {REG_SZ, {'0', '0', 0}},
-        {REG_DWORD, {0, 0, 0, 0}},
-        {REG_MULTI_SZ, {0, 0, 0, 0, 0, 0}},
-        {REG_NONE, {0, 0}},
+        {REG_BINARY, ones},      {REG_BINARY, {ones.begin(), ones.begin() + 4096}},
+        {REG_BINARY, {}},        {REG_BINARY, {5, 0, 1, 1}},
+        {REG_SZ, {'0', '0', 0}}, {REG_MULTI_SZ, {0, 0, 0, 0, 0, 0}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
         SCOPED_TRACE(row.bytes.size());
         this->setValue("bad", row.type, row.bytes);
         this->template expectRefused<CStringList>(store);
-        this->template expectRefused<CStringArray>(store);
-        this->template expectRefused<CByteArray>(store);
-        this->template expectRefused<CDWordArray>(store);
         this->template expectRefused<CWordArray>(store);
         this->template expectRefused<CObList>(store);
         POINT point = {7, 8}, *pPoint = &point;

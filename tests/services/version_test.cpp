@@ -166,29 +166,12 @@ TEST_F(Version, UnlistedNumbersHaveNoText) {
     EXPECT_TRUE(version.m_Info.strFileType.IsEmpty());
 }
 
-// Blocks cut short, whose head still promises the whole (every ninth number will do), and every length in the
-// block replaced by an evil one.
-TEST_F(Version, SpoiltBlocks) {
-    const std::vector<BYTE> good =
-        versionBlock(0x0804, 936, {{"FileVersion", "1.2"}, {"Comments", "x"}}).bytes();
-    std::vector<std::vector<BYTE>> blocks = {{good.begin(), good.begin() + 8}};
-    for (size_t n = 4; n < good.size(); n += 36)
-        blocks.emplace_back(good.begin(), good.begin() + n);
-    constexpr size_t kChild = 40 + 52, kTable = kChild + 36;
-    for (const size_t at :
-         {size_t(0), size_t(2), kChild, kChild + 2, kTable, kTable + 2, kTable + 24, kTable + 26})
-        for (const WORD length : {0, 1, 3, 0x7FFF, 0xFFFF}) {
-            blocks.push_back(good);
-            blocks.back()[at] = LOBYTE(length);
-            blocks.back()[at + 1] = HIBYTE(length);
-        }
-    for (size_t i = 0; i < blocks.size(); ++i) {
-        const COrvVersion version = versionOf(blocks[i]);
-        EXPECT_EQ(1, version.m_bFileTimeRead) << i;
-        EXPECT_EQ(0, CString("1.2").Find(version.m_Info.strFileVersion)) << i;
-    }
-    EXPECT_EQ(0, versionOf(blocks.front()).m_bVersionRead);
-    EXPECT_TRUE(::HeapValidate(::GetProcessHeap(), 0, NULL));
+// The head promises more than is there: the system, which would look there, is not asked.
+TEST_F(Version, ABlockThatLies) {
+    std::vector<BYTE> block = versionBlock(0x0804, 936, {{"FileVersion", "1.2"}}).bytes();
+    EXPECT_EQ(1, versionOf(block).m_bVersionRead);
+    block[0] = block[1] = 0xFF;
+    EXPECT_EQ(0, versionOf(block).m_bVersionRead);
 }
 
 // A text that is not closed, and whose length lies, ends within the block.

@@ -1,5 +1,6 @@
 // What drawing text does to device contexts, handles and archives, and what bad input does to it.
 
+#include "filled_text.h"
 #include "sheet.h"
 
 #include <gtest/gtest.h>
@@ -250,33 +251,6 @@ TEST(DrawTextContext, BadInputIsHarmless) {
                 block.GetAutoRect(measured, point, rect.angle);
                 ASSERT_EQ(before, stateOf(dc));
             }
-}
-
-// A text with no field as it was.
-void fill(COrvDrawText& text) {
-    text.LSetAutoClip(21);
-    text.LSetAutoLinefeed(22);
-    text.LSetDrawBorder(23);
-    text.LSetDrawClearanceShade(24);
-    text.LSetBkColor(25);
-    text.LSetBorderColor(26);
-    text.LSetSingleline(27);
-    text.LSetCharDist(28);
-    text.LSetColAlign(29);
-    text.LSetDrawMode(30);
-    text.LSetRop2(31);
-    text.LSetRowAlign(32);
-    text.LSetRowDist(33);
-    text.LSetTabCountSpace(34);
-    text.LSetTextColor(35);
-    text.LSetDrawFontLine(36);
-    text.SetShowContent("内容");
-    text.LGetOrvFont()->SetFontHeight(-31, "黑体", TRUE);
-    text.LSetFPRect(CFPRect(1, 2, 3, 4, 0.5));
-    text.LSetBkMode(37);
-    text.LSetDrawShade(38);
-    text.LSetSingleRowHeight(39);
-    text.LSetAutoCacuBound(40);
 }
 
 TEST(DrawTextStored, AsTold) {

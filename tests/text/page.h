@@ -10,6 +10,7 @@
 #include <string>
 
 #include "orvfc/ORVFC.h"
+#include "filled_text.h"
 #include "support/input.h"
 
 namespace orv::test {
@@ -84,30 +85,9 @@ inline std::string changed(COrvDrawText& text, CPage& page) {
     return difference(text, out);
 }
 
-// No member as it is when new, and hardly one that a control could show exactly.
-inline void fill(COrvDrawText& text) {
-    text.LSetBkMode(OPAQUE);
-    text.LSetBkColor(0x010203);
-    text.LSetBorderColor(0x040506);
-    text.LSetRop2(R2_XORPEN);
-    text.LSetDrawMode(3);
-    text.LSetTextColor(0x123456);
-    text.LSetRowDist(7);
-    text.LSetCharDist(-3);
-    text.LSetRowAlign(99);
-    text.LSetColAlign(4);
-    text.LSetTabCountSpace(3);
-    text.LSetDrawBorder(2);
-    text.LSetAutoLinefeed(FALSE);
-    text.LSetAutoClip(5);
-    text.LSetDrawShade(TRUE);
-    text.LSetDrawClearanceShade(TRUE);
-    text.LSetSingleline(FALSE);
-    text.LSetDrawFontLine(-1);
-    text.LSetAutoCacuBound(TRUE);
-    text.LSetFPRect(CFPRect(10, 20, 310, 220, 0.7654321));
-    text.LSetSingleRowHeight(33);
-    text.SetShowContent("内容\r\nText");
+// Nor does a control know such a font.
+inline void fillWithFont(COrvDrawText& text) {
+    fill(text);
     LOGFONT lf = {-19, 5, 123, 0, 800, 7, 9, 1, GB2312_CHARSET, 0, 0, 0, 0, "没有的字体"};
     text.LGetOrvFont()->SetLogFont(lf, TRUE);
     text.LGetOrvFont()->SetFontColor(0x654321);

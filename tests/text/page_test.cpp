@@ -10,7 +10,7 @@ namespace {
 
 TEST_F(TextPage, WhatIsLeftAloneStaysAsItWas) {
     COrvDrawText text;
-    fill(text);
+    fillWithFont(text);
     for (const DWORD mask : {DWORD(ORVTEXT_ALL), DWORD(0)}) {
         CPage page;
         page.m_dwEnable = mask;
@@ -219,37 +219,15 @@ TEST_F(TextPage, CommandsRefreshTheSample) {
 
 // A check box is all that the host's own template has.
 TEST_F(TextPage, TakesATemplateThatLacksControls) {
-    constexpr WORD kChild = (WS_CHILD | WS_VISIBLE) >> 16, kStop = WS_TABSTOP >> 16;
+    constexpr WORD kChild = (WS_CHILD | WS_VISIBLE) >> 16, kStop = kChild | (WS_TABSTOP >> 16);
+    constexpr WORD kCheck = BS_AUTOCHECKBOX, kId = IDC_ORV_BORDER;
     // Style, extended style, number of controls, place; no menu, class and title; the control.
-    alignas(4) static const WORD dialog[] = {0,
-                                             kChild,
-                                             0,
-                                             0,
-                                             1,
-                                             0,
-                                             0,
-                                             90,
-                                             40,
-                                             0,
-                                             0,
-                                             0,
-                                             BS_AUTOCHECKBOX,
-                                             kChild | kStop,
-                                             0,
-                                             0,
-                                             5,
-                                             5,
-                                             60,
-                                             9,
-                                             IDC_ORV_BORDER,
-                                             0xFFFF,
-                                             0x80,
-                                             0,
-                                             0};
+    alignas(4) static const WORD dialog[] = {0,     kChild, 0, 0, 1, 0,  0, 90,  40,     0,    0, 0, kCheck,
+                                             kStop, 0,      0, 5, 5, 60, 9, kId, 0xFFFF, 0x80, 0, 0};
     DebugEvents events;
     CPage page;
     COrvDrawText text;
-    fill(text);
+    fillWithFont(text);
     text.LSetDrawBorder(FALSE);
     page.ExchangeData(&text, 0);
     ASSERT_TRUE(page.CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(dialog), &host));
