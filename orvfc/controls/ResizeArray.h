@@ -20,6 +20,7 @@ struct CResizeArray {
     struct Move {
         HWND child;
         orv::ResizeFour box;
+        CRect before;
     };
 
     std::vector<Entry> entries;
@@ -32,5 +33,9 @@ namespace orv {
 
 // The control that has hooked the window, enabled or only passing messages on. NULL when there is none.
 CResizeCtrl* resizeControlOf(HWND parent);
+
+// Whether the parent's background is seen in a child: group boxes, transparent windows, and texts and buttons
+// that the parent gives a hollow brush. The parent is asked for its brushes.
+bool isSeenThrough(HWND child, HWND parent, HDC dc);
 
 } // namespace orv

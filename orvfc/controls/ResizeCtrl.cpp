@@ -199,6 +199,7 @@ void CResizeCtrl::Resize(int cx, int cy) {
     PlanMoves(dx, dy);
     const HWND parent = m_hParent;
     MoveChildren();
+    RepaintStale(parent);
     // The children were told, and so was who owns them: the control may be gone.
     if (orv::resizeControlOf(parent) == this) {
         m_bResizing = FALSE;
@@ -224,7 +225,7 @@ void CResizeCtrl::PlanMoves(int dx, int dy) {
             box.height = dropDownHeight(entry.child) + entry.dropDownSurplus;
         }
         if (orv::moveByShares(dx, dy, shares, m_nParts, entry.remainders, box)) {
-            moves.push_back({entry.child, box});
+            moves.push_back({entry.child, box, rect});
         }
     }
 }
@@ -247,6 +248,25 @@ void CResizeCtrl::MoveChildren() {
         ::SetWindowPos(move.child, NULL, move.box.left, move.box.top, move.box.width, move.box.height,
                        SWP_NOZORDER);
     }
+}
+
+// What the parent is seen through does not wipe its old picture, and a text aligned to the side that moved is
+// painted in the new part only.
+void CResizeCtrl::RepaintStale(HWND parent) {
+    const HDC dc = ::GetDC(parent);
+    for (size_t i = 0; orv::resizeControlOf(parent) == this && i < m_pEntries->moves.size(); ++i) {
+        const CResizeArray::Move move = m_pEntries->moves[i];
+        const ResizeFour& box = move.box;
+        char name[8] = "";
+        ::GetClassNameA(move.child, name, sizeof(name));
+        if (orv::isSeenThrough(move.child, parent, dc)) {
+            const CRect after(CPoint(box.left, box.top), CSize(box.width, box.height));
+            ::InvalidateRect(parent, CRect(move.before | after), TRUE);
+        } else if (lstrcmpiA(name, "Static") == 0) {
+            ::InvalidateRect(move.child, NULL, TRUE);
+        }
+    }
+    ::ReleaseDC(parent, dc);
 }
 
 // --- the parent's size

@@ -111,6 +111,7 @@ private:
     void Resize(int cx, int cy);
     void PlanMoves(int dx, int dy);
     void MoveChildren();
+    void RepaintStale(HWND parent);
     void PlaceGrip();
     BOOL IsGripShown() const;
     void DrawGrip(HDC hDC) const;

@@ -27,9 +27,18 @@ CResizeCtrl* controlFrom(HANDLE owner) {
     return owner == &goneMark ? NULL : static_cast<CResizeCtrl*>(owner);
 }
 
-// Whether the parent's background is seen in a child: group boxes, transparent windows, and texts and buttons
-// that the parent gives a hollow brush.
-bool isSeenThrough(HWND child, HWND parent, HDC dc) {
+// The procedure that a gone control left on the window.
+WNDPROC previousLeft(HWND parent) {
+    return reinterpret_cast<WNDPROC>(reinterpret_cast<LONG_PTR>(::GetPropA(parent, previousProperty)));
+}
+
+} // namespace
+
+CResizeCtrl* orv::resizeControlOf(HWND parent) {
+    return controlFrom(::GetPropA(parent, controlProperty));
+}
+
+bool orv::isSeenThrough(HWND child, HWND parent, HDC dc) {
     char name[8] = "";
     ::GetClassNameA(child, name, sizeof(name));
     const bool isButton = lstrcmpiA(name, "Button") == 0;
@@ -47,17 +56,6 @@ bool isSeenThrough(HWND child, HWND parent, HDC dc) {
     ::RestoreDC(dc, saved);
     return ::GetObjectA(reinterpret_cast<HGDIOBJ>(given), sizeof(brush), &brush) != 0 &&
            brush.lbStyle == BS_NULL;
-}
-
-// The procedure that a gone control left on the window.
-WNDPROC previousLeft(HWND parent) {
-    return reinterpret_cast<WNDPROC>(reinterpret_cast<LONG_PTR>(::GetPropA(parent, previousProperty)));
-}
-
-} // namespace
-
-CResizeCtrl* orv::resizeControlOf(HWND parent) {
-    return controlFrom(::GetPropA(parent, controlProperty));
 }
 
 // --- hooking and unhooking
@@ -255,7 +253,7 @@ BOOL CResizeCtrl::OnEraseBkgnd(WPARAM wParam, LPARAM lParam, LRESULT& result) {
     for (size_t i = 0; orv::resizeControlOf(parent) == this && i < m_pEntries->entries.size(); ++i) {
         const HWND child = m_pEntries->entries[i].child;
         if ((::GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE) == 0 ||
-            ::GetAncestor(child, GA_PARENT) != parent || isSeenThrough(child, parent, dc)) {
+            ::GetAncestor(child, GA_PARENT) != parent || orv::isSeenThrough(child, parent, dc)) {
             continue;
         }
         CRect rect;

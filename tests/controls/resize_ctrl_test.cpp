@@ -6,6 +6,7 @@
 
 #include "support/gdi_count.h"
 #include "support/heap_count.h"
+#include "support/paper.h"
 
 #include <functional>
 #include <memory>
@@ -335,6 +336,54 @@ TEST(ResizeCtrl, TheParentWipesOnlyWhatShowsItThrough) {
             << (row.name != NULL ? row.name : "own") << row.style << row.hollow;
         ::ReleaseDC(child, dc);
         ::DestroyWindow(child);
+    }
+    givesHollowBrushes = false;
+}
+
+// What stands in the parent's client area.
+std::vector<COLORREF> shown(HWND window) {
+    ::RedrawWindow(window, NULL, NULL, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    CRect client;
+    ::GetClientRect(window, &client);
+    Paper paper(client.Width(), client.Height());
+    const HDC dc = ::GetDC(window);
+    ::BitBlt(paper.dc, 0, 0, client.Width(), client.Height(), dc, 0, 0, SRCCOPY);
+    ::ReleaseDC(window, dc);
+    return paper.pixels();
+}
+
+TEST(ResizeCtrl, NothingOfTheOldPictureStays) {
+    const struct {
+        const char* name;
+        DWORD style;
+        bool hollow;
+        CResizeInfo shares;
+    } rows[] = {
+        {"BUTTON", BS_GROUPBOX, false, {NULL, 0, 0, 100, 100}},
+        {"BUTTON", BS_GROUPBOX, false, {NULL, 50, 50, 0, 0}},
+        {"STATIC", SS_RIGHT, true, {NULL, 0, 0, 100, 0}},
+        {"BUTTON", BS_AUTOCHECKBOX | BS_VCENTER, true, {NULL, 0, 0, 0, 100}},
+        {"STATIC", SS_CENTER, false, {NULL, 0, 0, 100, 100}},
+    };
+    for (const auto& row : rows) {
+        givesHollowBrushes = row.hollow;
+        Parent parent(WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+        CResizeCtrl control(parent.window);
+        const HWND child = parent.child({40, 40, 160, 140}, 0, row.name, row.style);
+        ::SetWindowTextA(child, "文字");
+        CResizeInfo shares = row.shares;
+        shares.hWnd = child;
+        ASSERT_TRUE(control.Add(&shares));
+        if (row.style == BS_GROUPBOX)
+            ASSERT_TRUE(control.Add(parent.child({60, 60, 90, 90}), 0, 0, 0, 0));
+        shown(parent.window);
+        for (const CSize size : {CSize(440, 330), CSize(500, 360), CSize(380, 290)}) {
+            parent.size(size.cx, size.cy);
+            const auto left = shown(parent.window);
+            ::InvalidateRect(parent.window, NULL, TRUE);
+            EXPECT_TRUE(left == shown(parent.window))
+                << row.name << " " << row.style << (row.hollow ? " hollow " : " ") << size.cx;
+        }
     }
     givesHollowBrushes = false;
 }
