@@ -1,8 +1,5 @@
 #include "OrvFCDrawTextPropPage.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include <orvfc/ORVFC.h>
 
 #include "FaceName.h"
@@ -39,26 +36,8 @@ namespace {
 // What each shape button edits; the numbers follow the order of the table of shapes.
 constexpr UINT kItalicShape = 1, kUnderlineShape = 2, kBoldShape = 3;
 
-// A shape button that is pushed in says 0.
-int isOn(const CFontShapeButton& button) {
-    return button.GetPushState() == 0;
-}
-
-void showOn(CFontShapeButton& button, int on) {
-    button.SetPushState(on ? 0 : 1, TRUE);
-}
-
-template <class T, class STORE>
-void takeDifference(const T& shown, const T& now, STORE store) {
-    if (now != shown)
-        store(now);
-}
-
-const char* const kAskingRow = "其它...";                  // of the colours
 constexpr UINT kFaceListWidth = 200, kAlignListWidth = 80; // pixels
 const int kAlignments[] = {0, 1, 2, 3, 5, 6, 7};
-// What the pickers can show, in points: beyond that they stand at the end.
-constexpr double kSmallestSize = 1, kLargestSize = 1638, kLargestSpacing = 10000;
 const double kSpacings[] = {3.5, 4.26, 5.55, 7.5}; // points
 
 struct EnabledControl {
@@ -86,25 +65,6 @@ const EnabledControl kEnabledControls[] = {
     {ORVTEXT_CHAR_SPACE, IDC_ORV_CHAR_SPACE},
     {ORVTEXT_SAMPLE, IDC_ORV_SAMPLE},
 };
-
-int screenResolution() {
-    CClientDC dc(NULL);
-    return dc.GetDeviceCaps(LOGPIXELSY);
-}
-
-// The size in points that the font's height was made for, or the points of the height as it is. Its sign says
-// what the height measures, not how large it is.
-double sizeShown(COrvFont& font, int dpi) {
-    const int size = font.GetFontSize();
-    const double points = COrvFont::ConvertHeightFromSize(size) == font.GetFontHeight()
-                              ? size
-                              : orv::pointsFromPixels(font.GetFontHeight(), dpi);
-    return std::clamp(std::abs(points), kSmallestSize, kLargestSize);
-}
-
-double spacingShown(LONG pixels, int dpi) {
-    return std::clamp(orv::pointsFromPixels(pixels, dpi), -kLargestSpacing, kLargestSpacing);
-}
 
 } // namespace
 
@@ -194,111 +154,6 @@ BOOL COrvFCDrawTextPropPage::OnInitDialog() {
     return result;
 }
 
-// --- between the controls and the copy
-
-void COrvFCDrawTextPropPage::DoDataExchange(CDataExchange* pDX) {
-    CPropertyPage::DoDataExchange(pDX);
-    if (!pDX->m_bSaveAndValidate)
-        ShowText();
-    else if (m_bShown)
-        TakeControls();
-}
-
-void COrvFCDrawTextPropPage::ShowText() {
-    COrvFont& font = *m_DrawText.LGetOrvFont();
-    const int dpi = screenResolution();
-    m_FontNameCmb.SetCurrentFontName(font.GetFontName());
-    m_FontSizeCmb.SetCurrentSize(sizeShown(font, dpi));
-    m_FontAslopeCmb.SetCurrentAngle(orv::degreesFromRadians(m_DrawText.LGetFPRect().GetAngle()));
-    m_FontColorCmb.SetCurrentColor(m_DrawText.LGetTextColor());
-    m_RowAlignCmb.SetCurrentAlignType(m_DrawText.LGetRowAlign());
-    m_ColAlignCmb.SetCurrentAlignType(m_DrawText.LGetColAlign());
-    m_RowSpaceCmb.SetCurrentDist(spacingShown(m_DrawText.LGetRowDist(), dpi));
-    m_CharSpaceCmb.SetCurrentDist(spacingShown(m_DrawText.LGetCharDist(), dpi));
-    showOn(m_UnderlineBtn, font.GetFontUnderline());
-    showOn(m_BoldBtn, font.GetFontBold());
-    showOn(m_ItalicBtn, font.GetFontItalic());
-    CheckDlgButton(IDC_ORV_AUTO_BOUND, m_DrawText.LGetAutoCacuBound() != 0);
-    CheckDlgButton(IDC_ORV_BORDER, m_DrawText.LGetDrawBorder() != 0);
-    CheckDlgButton(IDC_ORV_CLIP, m_DrawText.LGetAutoClip() != 0);
-    CheckDlgButton(IDC_ORV_LINE_FEED, m_DrawText.LGetAutoLinefeed() != 0);
-    CheckDlgButton(IDC_ORV_SHADE, m_DrawText.LGetDrawShade() != 0);
-    CheckDlgButton(IDC_ORV_FONT_LINE, m_DrawText.LGetDrawFontLine() != 0);
-    m_shown = ReadControls();
-    m_bShown = TRUE;
-    if (m_SampleEdit.m_hWnd == NULL)
-        return;
-    const CString content = m_DrawText.GetShowContent();
-    m_SampleEdit.SetWindowText(content.IsEmpty() ? CString("显示内容") : content);
-    InvalidText();
-}
-
-// While the user is asked for a colour of his own, the row that asks is no choice yet.
-COLORREF COrvFCDrawTextPropPage::ChosenColor() const {
-    return m_FontColorCmb.GetCurrentColorName() == kAskingRow ? m_shown.crText
-                                                              : m_FontColorCmb.GetCurrentColor();
-}
-
-COrvFCDrawTextPropPage::Values COrvFCDrawTextPropPage::ReadControls() {
-    Values now;
-    now.strFace = m_FontNameCmb.GetCurrentFontName();
-    now.dSize = m_FontSizeCmb.GetCurrentSize();
-    now.dSlope = m_FontAslopeCmb.GetCurrentAngle();
-    now.dRowSpace = m_RowSpaceCmb.GetCurrentDist();
-    now.dCharSpace = m_CharSpaceCmb.GetCurrentDist();
-    now.crText = ChosenColor();
-    now.nRowAlign = m_RowAlignCmb.GetCurrentAlignType();
-    now.nColAlign = m_ColAlignCmb.GetCurrentAlignType();
-    now.bUnderline = isOn(m_UnderlineBtn);
-    now.bBold = isOn(m_BoldBtn);
-    now.bItalic = isOn(m_ItalicBtn);
-    now.bAutoBound = IsDlgButtonChecked(IDC_ORV_AUTO_BOUND) != 0;
-    now.bBorder = IsDlgButtonChecked(IDC_ORV_BORDER) != 0;
-    now.bClip = IsDlgButtonChecked(IDC_ORV_CLIP) != 0;
-    now.bLineFeed = IsDlgButtonChecked(IDC_ORV_LINE_FEED) != 0;
-    now.bShade = IsDlgButtonChecked(IDC_ORV_SHADE) != 0;
-    now.bFontLine = IsDlgButtonChecked(IDC_ORV_FONT_LINE) != 0;
-    return now;
-}
-
-void COrvFCDrawTextPropPage::TakeFont(const Values& now) {
-    COrvFont& font = *m_DrawText.LGetOrvFont();
-    if (!now.strFace.IsEmpty())
-        takeDifference(m_shown.strFace, now.strFace,
-                       [&](const CString& face) { font.SetFontName(face, TRUE); });
-    takeDifference(m_shown.dSize, now.dSize,
-                   [&](double size) { font.SetFontSize(orv::wholePoints(size), TRUE); });
-    takeDifference(m_shown.bUnderline, now.bUnderline, [&](int on) { font.SetFontUnderline(on, TRUE); });
-    takeDifference(m_shown.bBold, now.bBold, [&](int on) { font.SetFontBold(on, TRUE); });
-    takeDifference(m_shown.bItalic, now.bItalic, [&](int on) { font.SetFontItalic(on, TRUE); });
-}
-
-void COrvFCDrawTextPropPage::TakeControls() {
-    const Values now = ReadControls();
-    const int dpi = screenResolution();
-    COrvDrawText& text = m_DrawText;
-    TakeFont(now);
-    takeDifference(m_shown.dSlope, now.dSlope, [&](double degrees) {
-        CFPRect rect = text.LGetFPRect();
-        rect.SetAngle(orv::radiansFromDegrees(degrees));
-        text.LSetFPRect(rect);
-    });
-    takeDifference(m_shown.crText, now.crText, [&](COLORREF cr) { text.LSetTextColor(cr); });
-    takeDifference(m_shown.nRowAlign, now.nRowAlign, [&](UINT flag) { text.LSetRowAlign(flag); });
-    takeDifference(m_shown.nColAlign, now.nColAlign, [&](UINT flag) { text.LSetColAlign(flag); });
-    takeDifference(m_shown.dRowSpace, now.dRowSpace,
-                   [&](double points) { text.LSetRowDist(orv::pixelsFromPoints(points, dpi)); });
-    takeDifference(m_shown.dCharSpace, now.dCharSpace,
-                   [&](double points) { text.LSetCharDist(orv::pixelsFromPoints(points, dpi)); });
-    takeDifference(m_shown.bAutoBound, now.bAutoBound, [&](BOOL on) { text.LSetAutoCacuBound(on); });
-    takeDifference(m_shown.bBorder, now.bBorder, [&](BOOL on) { text.LSetDrawBorder(on); });
-    takeDifference(m_shown.bClip, now.bClip, [&](BOOL on) { text.LSetAutoClip(on); });
-    takeDifference(m_shown.bLineFeed, now.bLineFeed, [&](BOOL on) { text.LSetAutoLinefeed(on); });
-    takeDifference(m_shown.bShade, now.bShade, [&](BOOL on) { text.LSetDrawShade(on); });
-    takeDifference(m_shown.bFontLine, now.bFontLine, [&](BOOL on) { text.LSetDrawFontLine(on); });
-    m_shown = now;
-}
-
 // --- the sample
 
 int COrvFCDrawTextPropPage::InvalidText() {
@@ -309,15 +164,16 @@ int COrvFCDrawTextPropPage::InvalidText() {
     static_assert(sizeof(format) == 60);
     format.cbSize = sizeof(format);
     format.dwMask = 0xE000000F; // bold, italic, underline, strike-out, face, size, colour
-    if (isOn(m_UnderlineBtn))
+    const Values now = ReadControls();
+    if (now.bUnderline)
         format.dwEffects |= CFE_UNDERLINE;
-    if (isOn(m_ItalicBtn))
+    if (now.bItalic)
         format.dwEffects |= CFE_ITALIC;
-    if (isOn(m_BoldBtn))
+    if (now.bBold)
         format.dwEffects |= CFE_BOLD;
-    format.yHeight = orv::twipsFromPoints(orv::wholePoints(m_FontSizeCmb.GetCurrentSize()));
-    format.crTextColor = ChosenColor();
-    orv::copyFaceName(format.szFaceName, static_cast<LPCTSTR>(m_FontNameCmb.GetCurrentFontName()));
+    format.yHeight = orv::twipsFromPoints(orv::wholePoints(now.dSize));
+    format.crTextColor = now.crText;
+    orv::copyFaceName(format.szFaceName, static_cast<LPCTSTR>(now.strFace));
     m_SampleEdit.SetSel(0, 99999999);
     m_SampleEdit.SetSelectionCharFormat(format);
     m_SampleEdit.SetDefaultCharFormat(format);

@@ -127,7 +127,7 @@ private:
         COLORREF crText;
         UINT nRowAlign, nColAlign;
         int bUnderline, bBold, bItalic;
-        BOOL bAutoBound, bBorder, bClip, bLineFeed, bShade, bFontLine;
+        BOOL bChecked[6]; // in the order of the table of check boxes
         bool operator==(const Values&) const = default;
     };
     void SubclassControls();
