@@ -29,9 +29,8 @@ void expectTurned(Paper& paper, const Depth& depth, CPoint origin, CSize size, d
 TEST(BitmapDrawing, StretchedAtEveryDepth) {
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
-        COrvDib dib;
         Paper paper(40, 40);
-        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        ReadDib dib(pictureFile(depth, 7, 5));
         paper.dc.SetStretchBltMode(BLACKONWHITE);
         for (const CSize size : {CSize(21, 15), CSize(-21, 15), CSize(21, -15), CSize(-21, -15)}) {
             paper.clear();
@@ -56,8 +55,7 @@ TEST(BitmapDrawing, StretchedAtEveryDepth) {
 
 TEST(BitmapDrawing, TurnedByAnyAngleAtEveryDepth) {
     for (const Depth& depth : depths()) {
-        COrvDib dib;
-        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        ReadDib dib(pictureFile(depth, 7, 5));
         for (double angle : {0.0, 1.5707963, 3.1415926, -1.5707963, 0.5235987, 2.0, -0.4, 4.0}) {
             SCOPED_TRACE(testing::Message() << depth.name << " " << angle);
             // Of whole squares for each pixel, and of odd ones.
@@ -74,8 +72,7 @@ TEST(BitmapDrawing, TurnedByAnyAngleAtEveryDepth) {
 // device context is left as it was.
 TEST(BitmapDrawing, TurnedInTheHostsCoordinates) {
     const Depth& depth = depths()[5];
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+    ReadDib dib(pictureFile(depth, 7, 5));
     Paper paper(80, 80);
     paper.dc.SetMapMode(MM_ANISOTROPIC);
     paper.dc.SetWindowExt(1, 1);
@@ -99,9 +96,8 @@ TEST(BitmapDrawing, TurnedInTheHostsCoordinates) {
 
 TEST(BitmapDrawing, TopDownAndRunsAreTheRightWayUp) {
     Paper paper(20, 10), turned(20, 10);
-    COrvDib down, runs;
-    ASSERT_TRUE(readBytes(down, pictureFile(depths()[5], 4, -2)));
-    ASSERT_TRUE(readBytes(runs, runsFile()));
+    ReadDib down(pictureFile(depths()[5], 4, -2));
+    ReadDib runs(runsFile());
     down.Draw(&paper.dc, CPoint(0, 0), CSize(4, 2));
     down.Draw(&turned.dc, CPoint(0, 0), CSize(4, 2), 0);
     runs.Draw(&paper.dc, CPoint(10, 0), CSize(4, 2));
@@ -118,8 +114,8 @@ TEST(BitmapDrawing, TopDownAndRunsAreTheRightWayUp) {
 // Indices beyond the colour table are black; what there is to draw in decides how long it takes.
 TEST(BitmapDrawing, OddPicturesAndPlaces) {
     Paper paper(20, 20);
-    COrvDib few, empty;
-    ASSERT_TRUE(readBytes(few, makeFile({.colorsUsed = 2})));
+    COrvDib empty;
+    ReadDib few(makeFile({.colorsUsed = 2}));
     ASSERT_TRUE(few.Draw(&paper.dc, CPoint(0, 0), CSize(5, 3)));
     EXPECT_EQ(RGB(0, 0, 0), paper.at(0, 0));
     ASSERT_TRUE(few.Draw(&paper.dc, CPoint(-500000000, -400000000), CSize(2000000000, 2000000000), 0.1));
@@ -136,8 +132,7 @@ TEST(BitmapDrawing, OddPicturesAndPlaces) {
 
 // A metafile has no clipping box; the record lies where the picture does, and nothing behind it is written.
 TEST(BitmapDrawing, TurnedIntoAMetafile) {
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, pictureFile(depths()[2], 7, 5)));
+    ReadDib dib(pictureFile(depths()[2], 7, 5));
     CMetaFileDC meta;
     meta.CreateEnhanced(NULL, NULL, NULL, NULL);
     ASSERT_TRUE(dib.Draw(&meta, CPoint(10, 30), CSize(14, 10), 0.7));
@@ -158,8 +153,7 @@ TEST(BitmapPalette, UsedInADeviceContext) {
     for (int bitCount : {1, 4, 8, 16, 24, 32}) {
         SCOPED_TRACE(bitCount);
         const int colors = bitCount <= 8 ? 1 << bitCount : 9;
-        COrvDib dib;
-        ASSERT_TRUE(readBytes(dib, makeFile({.bitCount = WORD(bitCount), .colorsUsed = DWORD(colors)})));
+        ReadDib dib(makeFile({.bitCount = WORD(bitCount), .colorsUsed = DWORD(colors)}));
         Paper paper(256, 1);
         dib.UsePalette(&paper.dc, FALSE);
         for (int i = 0; i < colors; ++i) {
@@ -168,18 +162,17 @@ TEST(BitmapPalette, UsedInADeviceContext) {
         }
         ::SelectPalette(paper.dc, static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE)), FALSE);
     }
-    COrvDib plain;
     Paper paper(2, 2);
-    ASSERT_TRUE(readBytes(plain, makeFile({.bitCount = 24})));
+    ReadDib plain(makeFile({.bitCount = 24}));
     EXPECT_EQ(0u, plain.UsePalette(&paper.dc, FALSE));
     EXPECT_EQ(::GetStockObject(DEFAULT_PALETTE), ::GetCurrentObject(paper.dc, OBJ_PAL));
 }
 
 TEST(BitmapPalette, TheSystemsForPicturesWithoutColourTable) {
-    COrvDib plain, table, empty;
+    COrvDib empty;
     Paper paper(2, 2);
-    ASSERT_TRUE(readBytes(plain, makeFile({.bitCount = 24})));
-    ASSERT_TRUE(readBytes(table, makeFile({})));
+    ReadDib plain(makeFile({.bitCount = 24}));
+    ReadDib table(makeFile({}));
     const HPALETTE own = table.m_hPal;
     EXPECT_TRUE(plain.SetSystemPalette(&paper.dc));
     EXPECT_GT(::GetPaletteEntries(plain.m_hPal, 0, 0, NULL), 15u);
@@ -191,9 +184,8 @@ TEST(BitmapPalette, TheSystemsForPicturesWithoutColourTable) {
 TEST(BitmapDrawing, DeviceBitmapAtEveryDepth) {
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
-        COrvDib dib;
         Paper paper(10, 10);
-        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        ReadDib dib(pictureFile(depth, 7, 5));
         CBitmap bitmap;
         ASSERT_TRUE(bitmap.Attach(dib.CreateBitmap(&paper.dc)));
         CDC source;

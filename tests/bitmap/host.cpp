@@ -102,6 +102,11 @@ BOOL readBytes(COrvDib& dib, const Bytes& bytes) {
     return dib.Read(&file);
 }
 
+ReadDib::ReadDib(const Bytes& file) {
+    if (!readBytes(*this, file))
+        throw std::runtime_error("a good file is not read");
+}
+
 COLORREF colorOf(const COrvDib& dib, int x, int y) {
     const BITMAPINFOHEADER& header = *dib.m_pInfoHeader;
     const DWORD value = dib.GetPixelIndex(x, dib.GetDimensions().cy - 1 - y);

@@ -30,6 +30,10 @@ const std::vector<Depth>& depths();
 Bytes pictureFile(const Depth& depth, int width, int height);
 COLORREF pictureColor(const Depth& depth, int x, int y);
 BOOL readBytes(COrvDib& dib, const Bytes& bytes);
+// Read from a good file.
+struct ReadDib : COrvDib {
+    explicit ReadDib(const Bytes& file);
+};
 
 // The colour of a pixel as its stored value says; y counts from the top.
 COLORREF colorOf(const COrvDib& dib, int x, int y);

@@ -2,6 +2,9 @@
 
 #include "host.h"
 #include "second.h"
+#include "support/driven_program.h"
+
+#include <process.h>
 
 using namespace orv::test;
 
@@ -84,18 +87,8 @@ TEST(BitmapMapping, AReadOnlyFileIsLeftAlone) {
 
 // What a second program, run now, can do with the file.
 int secondProgram(const CString& path) {
-    CString line = "bitmap_second.exe \"" + path + "\"";
-    STARTUPINFOA startup = {};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION process;
-    DWORD code = 99;
-    if (::CreateProcessA(NULL, line.GetBuffer(), NULL, NULL, TRUE, 0, NULL, NULL, &startup, &process)) {
-        ::WaitForSingleObject(process.hProcess, 60000);
-        ::GetExitCodeProcess(process.hProcess, &code);
-        ::CloseHandle(process.hThread);
-        ::CloseHandle(process.hProcess);
-    }
-    return int(code);
+    const std::string program = programBeside("bitmap_second.exe");
+    return int(_spawnl(_P_WAIT, program.c_str(), "second", ("\"" + path + "\"").GetString(), NULL));
 }
 
 TEST(BitmapMapping, TwoProgramsOnOneFile) {
@@ -118,8 +111,7 @@ TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
     const CString path = folder.path("copy.bmp");
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
-        COrvDib dib, again;
-        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        COrvDib dib = ReadDib(pictureFile(depth, 7, 5)), again;
         dib.m_dRadian = 0.25;
         const DWORD length = dib.GetFileLength();
         ASSERT_TRUE(dib.CopyToMapFile(path));
@@ -136,9 +128,9 @@ TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
             ASSERT_TRUE(readBytes(again, bytes));
         }
     }
-    COrvDib empty, dib;
+    COrvDib empty;
     EXPECT_FALSE(empty.CopyToMapFile(folder.path("empty.bmp")));
-    ASSERT_TRUE(readBytes(dib, makeFile({})));
+    ReadDib dib(makeFile({}));
     EXPECT_FALSE(dib.CopyToMapFile(folder.path("no folder\\x.bmp")));
     EXPECT_EQ(7u, dib.GetPixelIndex(0, 0));
     ASSERT_TRUE(dib.CopyToMapFile(path));

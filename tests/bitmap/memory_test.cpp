@@ -62,8 +62,7 @@ TEST(BitmapCopy, OfEveryOwner) {
     const ScratchFolder folder;
     writeFile(folder.path("a.bmp"), file);
     const HGLOBAL block = globalCopy(file);
-    COrvDib read, attached, global, section, mapped;
-    ASSERT_TRUE(readBytes(read, file));
+    COrvDib read = ReadDib(file), attached, global, section, mapped;
     ASSERT_TRUE(attached.AttachMemory(&file[14]));
     ASSERT_TRUE(global.AttachMemory(::GlobalLock(block), TRUE, block));
     CMemFile memory(file.data(), UINT(file.size()));
@@ -168,8 +167,8 @@ TEST(BitmapPacked, KeepsEveryPixelAtEveryDepth) {
 
 TEST(BitmapPacked, APaletteGivesDeviceBitmapsTheirColours) {
     for (int bitCount : {4, 8}) {
-        COrvDib table, dib;
-        ASSERT_TRUE(readBytes(table, makeFile({.bitCount = WORD(bitCount), .colorsUsed = 5})));
+        COrvDib dib;
+        ReadDib table(makeFile({.bitCount = WORD(bitCount), .colorsUsed = 5}));
         CPalette palette;
         palette.Attach(table.m_hPal);
         table.m_hPal = NULL;

@@ -27,8 +27,7 @@ TEST(BitmapFile, Kinds) {
     for (const KindRow& row : kindRows()) {
         SCOPED_TRACE(row.name);
         DebugEvents events;
-        COrvDib dib;
-        ASSERT_TRUE(readBytes(dib, makeFile({.bitCount = 4})));
+        ReadDib dib(makeFile({.bitCount = 4}));
         EXPECT_EQ(row.good, readBytes(dib, makeFile(row.spec)) != FALSE);
         EXPECT_EQ(!row.good, isEmpty(dib));
         EXPECT_EQ(0, events.assertions());
@@ -46,9 +45,8 @@ TEST(BitmapFile, RoundTrips) {
         if (!row.good)
             continue;
         SCOPED_TRACE(row.name);
-        COrvDib dib;
         const Bytes file = makeFile(row.spec);
-        ASSERT_TRUE(readBytes(dib, file));
+        ReadDib dib(file);
         const size_t headers = 14 + dib.GetSizeHeader();
         Bytes expected(file.begin(), file.begin() + headers);
         expected.insert(expected.end(), file.begin() + headers + row.spec.gap,
@@ -57,8 +55,8 @@ TEST(BitmapFile, RoundTrips) {
         memcpy(&expected[10], &rowsAt, 4);
         EXPECT_EQ(expected, written(dib));
         EXPECT_EQ(expected.size(), dib.GetFileLength());
-        COrvDib again, section;
-        ASSERT_TRUE(readBytes(again, expected));
+        COrvDib section;
+        ReadDib again(expected);
         EXPECT_EQ(expected, written(again));
         // A section holds plain rows only, and says so.
         CMemFile memory(const_cast<BYTE*>(file.data()), UINT(file.size()));
@@ -72,9 +70,8 @@ TEST(BitmapFile, PixelsOfEverySizeAndDepth) {
     for (const Depth& depth : depths()) {
         for (int width : {1, 2, 3, 4, 5, 7, 8, 9, 31, 32, 33}) {
             SCOPED_TRACE(testing::Message() << depth.name << ", " << width << " wide");
-            COrvDib up, down;
-            ASSERT_TRUE(readBytes(up, pictureFile(depth, width, 3)));
-            ASSERT_TRUE(readBytes(down, pictureFile(depth, width, -3)));
+            ReadDib up(pictureFile(depth, width, 3));
+            ReadDib down(pictureFile(depth, width, -3));
             for (const COrvDib* dib : {&up, &down}) {
                 EXPECT_EQ(width, dib->m_dWidth);
                 EXPECT_EQ(3, dib->m_dHeight);
@@ -85,8 +82,7 @@ TEST(BitmapFile, PixelsOfEverySizeAndDepth) {
 }
 
 TEST(BitmapPixelCalls, OutsideThePictureAnswerNothing) {
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, makeFile({.width = 3, .height = 2, .rowsBytes = 8})));
+    ReadDib dib(makeFile({.width = 3, .height = 2, .rowsBytes = 8}));
     ASSERT_TRUE(dib.SetPiexelIndex(2, 1, 0x1AB));
     EXPECT_EQ(0xABu, dib.GetPixelIndex(2, 1));
     const Bytes before = written(dib);
@@ -114,8 +110,7 @@ TEST(BitmapPixelCalls, OutsideThePictureAnswerNothing) {
 }
 
 TEST(BitmapPixelCalls, RunLengthRowsHaveNoPixelsOfTheirOwn) {
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, runsFile()));
+    ReadDib dib(runsFile());
     EXPECT_EQ(0u, dib.GetPixelIndex(1, 0));
     EXPECT_FALSE(dib.SetPiexelIndex(1, 0, 3));
     ASSERT_TRUE(dib.Compress(NULL, FALSE));
@@ -125,9 +120,8 @@ TEST(BitmapPixelCalls, RunLengthRowsHaveNoPixelsOfTheirOwn) {
 
 // Palette entry i is colour table entry i, red first.
 TEST(BitmapPalette, FollowsTheColourTable) {
-    COrvDib dib;
     DebugEvents events;
-    ASSERT_TRUE(readBytes(dib, makeFile({.colorsUsed = 5})));
+    ReadDib dib(makeFile({.colorsUsed = 5}));
     EXPECT_EQ("COrvDib::MakePalette -- m_nColorTableEntries = 5\n", events.text());
     PALETTEENTRY entries[6];
     ASSERT_EQ(5u, ::GetPaletteEntries(dib.m_hPal, 0, 6, entries));
@@ -135,8 +129,7 @@ TEST(BitmapPalette, FollowsTheColourTable) {
         EXPECT_EQ(tableEntry(i), RGB(entries[i].peRed, entries[i].peGreen, entries[i].peBlue));
         EXPECT_EQ(0, entries[i].peFlags);
     }
-    COrvDib plain;
-    ASSERT_TRUE(readBytes(plain, makeFile({.bitCount = 24})));
+    ReadDib plain(makeFile({.bitCount = 24}));
     EXPECT_FALSE(plain.MakePalette());
     EXPECT_EQ(NULL, plain.m_hPal);
 }
@@ -172,8 +165,8 @@ TEST(BitmapFile, OfAnotherProgram) {
 TEST(BitmapFile, FailuresOfWriting) {
     const ScratchFolder folder;
     writeFile(folder.path("x.bmp"), {});
-    COrvDib dib, empty;
-    ASSERT_TRUE(readBytes(dib, makeFile({})));
+    COrvDib empty;
+    ReadDib dib(makeFile({}));
     CFile file(folder.path("x.bmp"), CFile::modeRead);
     EXPECT_FALSE(dib.Write(&file));
     EXPECT_EQ(Messages({"write error"}), takeMessages());
@@ -203,8 +196,7 @@ TEST(BitmapFile, IsReadIntoMemoryOnce) {
 
 // In an archive, between other things; through pointers, too.
 TEST(BitmapArchive, KeepsAngleAndPicture) {
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, pictureFile(depths()[1], 5, 4)));
+    ReadDib dib(pictureFile(depths()[1], 5, 4));
     dib.m_dRadian = 0.75;
     DebugEvents events;
     const std::string bytes = stored([&](CArchive& ar) {
@@ -232,8 +224,7 @@ TEST(BitmapArchive, KeepsAngleAndPicture) {
 }
 
 TEST(BitmapArchive, ThrowsWhenItIsCutAnywhere) {
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, makeFile({.bitCount = 1})));
+    ReadDib dib(makeFile({.bitCount = 1}));
     const std::string bytes = serialized(dib);
     for (size_t cut = 0; cut < bytes.size(); ++cut) {
         COrvDib in(dib);

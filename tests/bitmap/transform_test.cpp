@@ -23,8 +23,7 @@ TEST(BitmapRotation, QuartersAtEveryDepth) {
     for (const Depth& depth : depths()) {
         for (int height : {5, -5}) {
             SCOPED_TRACE(testing::Message() << depth.name << " " << height);
-            COrvDib dib;
-            ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, height)));
+            ReadDib dib(pictureFile(depth, 7, height));
             ASSERT_TRUE(dib.Rotation(1.5707963));
             ASSERT_EQ(CSize(5, 7), dib.GetDimensions());
             EXPECT_EQ(height < 0, dib.m_pInfoHeader->biHeight < 0);
@@ -44,9 +43,8 @@ TEST(BitmapRotation, QuartersAtEveryDepth) {
 TEST(BitmapRotation, CornersBecomeWhiteAtEveryDepth) {
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
-        COrvDib dib;
         Bytes file = pictureFile(depth, 20, 20);
-        ASSERT_TRUE(readBytes(dib, file));
+        ReadDib dib(file);
         if (depth.bitCount == 1)
             dib.m_pColorTable[1] = {240, 250, 255, 0}; // as white as this one gets
         for (int y = 0; y < 20; ++y)
@@ -67,8 +65,8 @@ TEST(BitmapRotation, CornersBecomeWhiteAtEveryDepth) {
 }
 
 TEST(BitmapRotation, RunsAndRefusals) {
-    COrvDib runs, empty;
-    ASSERT_TRUE(readBytes(runs, runsFile()));
+    COrvDib empty;
+    ReadDib runs(runsFile());
     const HPALETTE palette = runs.m_hPal;
     EXPECT_FALSE(runs.Rotation(NAN));
     EXPECT_EQ(DWORD(BI_RLE8), runs.m_pInfoHeader->biCompression);
@@ -85,8 +83,7 @@ TEST(BitmapRotation, WithoutAPlaceForItsFile) {
     char temp[MAX_PATH];
     ::GetEnvironmentVariableA("TMP", temp, MAX_PATH);
     ::SetEnvironmentVariableA("TMP", "C:\\no such folder");
-    COrvDib dib;
-    ASSERT_TRUE(readBytes(dib, makeFile({})));
+    ReadDib dib(makeFile({}));
     EXPECT_FALSE(dib.Rotation(1));
     ::SetEnvironmentVariableA("TMP", temp);
     const Messages messages = takeMessages();
@@ -123,8 +120,7 @@ TEST(BitmapCompression, Refusals) {
     Paper paper(2, 2);
     for (const Depth& depth : depths()) {
         SCOPED_TRACE(depth.name);
-        COrvDib dib;
-        ASSERT_TRUE(readBytes(dib, pictureFile(depth, 7, 5)));
+        ReadDib dib(pictureFile(depth, 7, 5));
         EXPECT_FALSE(dib.Compress(&paper.dc, TRUE));
         const bool possible = depth.bitCount == 4 || depth.bitCount == 8;
         EXPECT_EQ(Messages({possible ? "Driver can't do compression" : "Unable to compress this DIB"}),
@@ -132,9 +128,7 @@ TEST(BitmapCompression, Refusals) {
         EXPECT_EQ(pictureColor(depth, 6, 4), colorOf(dib, 6, 4));
         EXPECT_TRUE(dib.Compress(&paper.dc, FALSE));
     }
-    COrvDib empty, runs, down;
-    ASSERT_TRUE(readBytes(runs, runsFile()));
-    ASSERT_TRUE(readBytes(down, makeFile({.height = -3})));
+    COrvDib empty, runs = ReadDib(runsFile()), down = ReadDib(makeFile({.height = -3}));
     for (COrvDib* dib : {&empty, &runs, &down}) {
         EXPECT_FALSE(dib->Compress(&paper.dc, TRUE));
         EXPECT_EQ(Messages({"Unable to compress this DIB"}), takeMessages());

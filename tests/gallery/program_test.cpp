@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/driven_program.h"
 #include "support/scratch_folder.h"
 
 using namespace std::string_view_literals;
@@ -28,13 +29,6 @@ std::string readAll(HANDLE pipe) {
 
 class Program : public testing::Test, protected orv::test::ScratchFolder {
 protected:
-    static std::string program() {
-        char name[MAX_PATH];
-        ::GetModuleFileNameA(NULL, name, sizeof name);
-        const std::string file = name;
-        return file.substr(0, file.find_last_of("\\/")) + "\\gallery.exe";
-    }
-
     // In the test's folder.
     Outcome run(const std::string& arguments) const {
         SECURITY_ATTRIBUTES inherit = {sizeof inherit, NULL, TRUE};
@@ -45,7 +39,7 @@ protected:
         EXPECT_TRUE(::CreatePipe(&readEnd, &start.hStdError, &inherit, 0));
         ::SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
         start.hStdOutput = start.hStdError;
-        std::string command = "\"" + program() + "\" " + arguments;
+        std::string command = "\"" + orv::test::programBeside("gallery.exe") + "\" " + arguments;
         PROCESS_INFORMATION process = {};
         Outcome outcome;
         const BOOL started =

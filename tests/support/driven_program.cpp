@@ -25,11 +25,15 @@ BOOL CALLBACK look(HWND window, LPARAM lParam) {
 
 } // namespace
 
-DrivenProgram::DrivenProgram(const char* program, const std::string& argument, const char* title) {
+std::string programBeside(const char* name) {
     char path[MAX_PATH] = "";
     ::GetModuleFileNameA(NULL, path, MAX_PATH);
-    std::string command = path;
-    command = "\"" + command.substr(0, command.rfind('\\') + 1) + program + "\" " + argument;
+    const std::string own = path;
+    return own.substr(0, own.rfind('\\') + 1) + name;
+}
+
+DrivenProgram::DrivenProgram(const char* program, const std::string& argument, const char* title) {
+    std::string command = "\"" + programBeside(program) + "\" " + argument;
     STARTUPINFOA start = {};
     start.cb = sizeof start;
     if (!::CreateProcessA(NULL, command.data(), NULL, NULL, FALSE, 0, NULL, NULL, &start, &process_))

@@ -6,6 +6,9 @@
 
 namespace orv::test {
 
+// The path of a program that lies beside this one.
+std::string programBeside(const char* name);
+
 // A running program, seen from outside: its windows, and how it ended.
 class DrivenProgram {
 public:

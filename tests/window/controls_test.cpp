@@ -6,8 +6,7 @@ namespace {
 
 class Controls : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(parent.Make()); }
-    CHiddenWnd parent;
+    Made<CHiddenWnd> parent;
     const CRect rect{0, 0, 80, 80};
 };
 

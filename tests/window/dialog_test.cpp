@@ -38,8 +38,7 @@ public:
 };
 
 TEST(Dialog, AnswersWhatEndsIt) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     const struct {
         const char* what;
         std::function<void(CIdleDlg&)> idle;
@@ -96,8 +95,7 @@ TEST(Dialog, MayEndBeforeItBegins) {
 }
 
 TEST(Dialog, AnOwnerThatGoesTakesTheDialogAlong) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     CIdleDlg dialog(IDD_EMPTY, &parent);
     dialog.m_idle = [&](CIdleDlg&) { parent.DestroyWindow(); };
     EXPECT_EQ(IDABORT, dialog.DoModal());
@@ -119,8 +117,7 @@ TEST(Dialog, TheEndOfTheProgramEndsEveryLoop) {
 }
 
 TEST(Dialog, TemporaryObjectsFromBeforeOutliveTheLoop) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     HWND statics[2];
     for (HWND& window : statics)
         window = ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 9, 9, parent.m_hWnd, NULL, NULL, NULL);
@@ -222,8 +219,7 @@ TEST(Sheet, PagesAreMadeLeftAndConfirmed) {
 }
 
 TEST(Sheet, ModelessItEndsWithItsButtons) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     for (int button : {PSBTN_OK, PSBTN_CANCEL}) {
         CIdlePage page(IDD_EMPTY);
         CPropertySheet sheet("表单");
@@ -338,8 +334,7 @@ protected:
 
 TEST(Dialog, WhatPreTranslateMessageThrowsEndsTheLoopAndTheWindow) {
     orv::test::DebugEvents events;
-    COpeningWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<COpeningWnd> parent;
     CThrowingEdit edit;
     CIdleDlg dialog(IDD_FIELDS, &parent);
     dialog.m_init = [&](CIdleDlg& d) { edit.SubclassDlgItem(IDC_EDIT, &d); };
@@ -410,8 +405,7 @@ TEST(Pump, EachWindowIsAskedAboutAMessageOnce) {
 }
 
 TEST(Pump, IdleTimeEmptiesTheMapsOfTemporaryObjects) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     HWND window = ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 9, 9, parent.m_hWnd, NULL, NULL, NULL);
     CWnd::FromHandle(window);
     theApp.OnIdle(1);

@@ -38,14 +38,12 @@ TEST(Lifetime, AnObjectThatGoesFirstTakesItsWindowAlong) {
     HWND window;
     ends = 0;
     {
-        CCountedWnd object;
-        ASSERT_TRUE(object.Make());
+        Made<CCountedWnd> object;
         window = object.m_hWnd;
     }
     EXPECT_FALSE(::IsWindow(window));
     EXPECT_EQ(0, ends) << "the derived part was gone already";
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     {
         CEdit edit;
         ASSERT_TRUE(edit.Create(WS_CHILD, CRect(0, 0, 9, 9), &parent, 5));
@@ -313,8 +311,7 @@ ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 TEST(Lifetime, WhatAHandlerThrowsEndsAtTheWindow) {
-    CThrowingWnd window;
-    ASSERT_TRUE(window.Make());
+    Made<CThrowingWnd> window;
     for (int kind = 0; kind < 3; ++kind) {
         DebugEvents events;
         EXPECT_EQ(0, window.SendMessage(WM_USER, static_cast<WPARAM>(kind))) << kind;
@@ -332,8 +329,7 @@ TEST(Lifetime, WhatAHandlerThrowsEndsAtTheWindow) {
 }
 
 TEST(Lifetime, StrangeParametersDoNoHarm) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     CComboBox combo;
     ASSERT_TRUE(
         combo.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED, CRect(0, 0, 50, 60), &parent, 3));

@@ -98,8 +98,7 @@ ON_REGISTERED_MESSAGE(WM_HOST_NEWS, &CHearingWnd::OnNews)
 END_MESSAGE_MAP()
 
 TEST(Routing, HandlersGetTheirMessagesTakenApart) {
-    CHearingWnd window;
-    ASSERT_TRUE(window.Make());
+    Made<CHearingWnd> window;
     const auto self = reinterpret_cast<LPARAM>(window.m_hWnd);
     take();
     MINMAXINFO limits = {};
@@ -187,8 +186,7 @@ ON_COMMAND(1, &CDerivedWnd::OnOne)
 END_MESSAGE_MAP()
 
 TEST(Routing, CommandsGoToTheMostDerivedMapAndOn) {
-    CDerivedWnd window;
-    ASSERT_TRUE(window.Make());
+    Made<CDerivedWnd> window;
     const struct {
         WPARAM command;
         const char* expected;
@@ -239,8 +237,7 @@ ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
 TEST(Routing, ControlsHearFirstAndMayPassOn) {
-    CDerivedWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CDerivedWnd> parent;
     CReflectingEdit edit;
     ASSERT_TRUE(edit.Create(WS_CHILD, CRect(0, 0, 50, 20), &parent, 60));
     edit.SetWindowText("甲");
@@ -285,8 +282,7 @@ public:
 };
 
 TEST(Routing, OwnerDrawnItemsAreTheControlsOwnUntilTheEnd) {
-    CHiddenWnd parent;
-    ASSERT_TRUE(parent.Make());
+    Made<CHiddenWnd> parent;
     CRecordingCombo combo;
     ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT,
                              CRect(0, 0, 90, 100), &parent, 7));

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "support/debug_events.h"
 #include "support/message_boxes.h"
 
@@ -31,5 +33,15 @@ public:
     BOOL Make(CWnd* pParent = NULL) {
         return CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 100, 100, pParent->GetSafeHwnd(),
                         NULL);
+    }
+};
+
+// One that has its window from the start.
+template <class Window>
+class Made : public Window {
+public:
+    Made() {
+        if (!this->Make())
+            throw std::runtime_error("no window");
     }
 };
