@@ -95,21 +95,6 @@ TEST_F(FileTest, DuplicatesShareTheFile) {
     delete copy; // and with it the handle, or the folder could not be removed
 }
 
-TEST_F(FileTest, ArchivesOverRealFiles) {
-    const CString big('x', 10000);
-    {
-        CFile file(m_folder.path("big.bin"), CFile::modeCreate | CFile::modeWrite);
-        CArchive ar(&file, CArchive::store);
-        ar << (LONG)1 << big << (LONG)2;
-    }
-    CFile file(m_folder.path("big.bin"), CFile::modeRead);
-    CArchive ar(&file, CArchive::load);
-    LONG first, second;
-    CString text;
-    ar >> first >> text >> second;
-    EXPECT_TRUE(first == 1 && second == 2 && text == big);
-}
-
 #if defined(_WIN32)
 TEST_F(FileTest, SharingAndLocking) {
     const CString name = m_folder.write("s.txt", "0123456789");
