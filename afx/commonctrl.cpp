@@ -37,18 +37,11 @@ CImageList* PASCAL CImageList::FromHandlePermanent(HIMAGELIST hImageList) {
 }
 
 CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList) {
-    if (!hImageList)
-        return NULL;
-    orvafx::HandleMap& map = threadState().imageLists;
-    CObject* known = map.permanent(hImageList);
-    if (!known)
-        known = map.temporary(hImageList);
-    if (known)
-        return static_cast<CImageList*>(known);
-    auto* list = new CImageList;
-    list->m_hImageList = hImageList;
-    map.setTemporary(hImageList, list);
-    return list;
+    return threadState().imageLists.objectOf<CImageList>(hImageList, [=] {
+        auto* list = new CImageList;
+        list->m_hImageList = hImageList;
+        return list;
+    });
 }
 
 void PASCAL CImageList::DeleteTempMap() {
@@ -67,9 +60,7 @@ BOOL CImageList::Attach(HIMAGELIST hImageList) {
 
 HIMAGELIST CImageList::Detach() {
     const HIMAGELIST handle = m_hImageList;
-    if (handle)
-        if (auto* state = orvafx::existingThreadState())
-            state->imageLists.removePermanent(handle, this);
+    orvafx::leaveHandle(&orvafx::ThreadState::imageLists, handle, this);
     m_hImageList = NULL;
     return handle;
 }

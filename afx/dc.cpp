@@ -1,7 +1,6 @@
 #include "afxwin.h"
 #include "threadstate.h"
 
-using orvafx::existingThreadState;
 using orvafx::threadState;
 
 IMPLEMENT_DYNCREATE(CDC, CObject)
@@ -21,17 +20,11 @@ HDC CDC::GetSafeHdc() const {
 }
 
 CDC* PASCAL CDC::FromHandle(HDC hDC) {
-    if (!hDC)
-        return NULL;
-    orvafx::HandleMap& map = threadState().deviceContexts;
-    if (CObject* known = map.permanent(hDC))
-        return static_cast<CDC*>(known);
-    if (CObject* known = map.temporary(hDC))
-        return static_cast<CDC*>(known);
-    auto* dc = new CDC;
-    dc->m_hDC = dc->m_hAttribDC = hDC;
-    map.setTemporary(hDC, dc);
-    return dc;
+    return threadState().deviceContexts.objectOf<CDC>(hDC, [=] {
+        auto* dc = new CDC;
+        dc->m_hDC = dc->m_hAttribDC = hDC;
+        return dc;
+    });
 }
 
 void PASCAL CDC::DeleteTempMap() {
@@ -53,9 +46,7 @@ BOOL CDC::Attach(HDC hDC) {
 
 HDC CDC::Detach() {
     HDC handle = m_hDC;
-    if (handle)
-        if (auto* state = existingThreadState())
-            state->deviceContexts.removePermanent(handle, this);
+    orvafx::leaveHandle(&orvafx::ThreadState::deviceContexts, handle, this);
     m_hDC = m_hAttribDC = NULL;
     return handle;
 }

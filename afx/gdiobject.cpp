@@ -1,7 +1,6 @@
 #include "afxwin.h"
 #include "threadstate.h"
 
-using orvafx::existingThreadState;
 using orvafx::threadState;
 
 IMPLEMENT_DYNCREATE(CGdiObject, CObject)
@@ -65,17 +64,11 @@ HGDIOBJ CGdiObject::GetSafeHandle() const {
 }
 
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
-    if (!hObject)
-        return NULL;
-    orvafx::HandleMap& map = threadState().gdiObjects;
-    if (CObject* known = map.permanent(hObject))
-        return static_cast<CGdiObject*>(known);
-    if (CObject* known = map.temporary(hObject))
-        return static_cast<CGdiObject*>(known);
-    CGdiObject* object = newObjectOfKind(hObject);
-    object->m_hObject = hObject;
-    map.setTemporary(hObject, object);
-    return object;
+    return threadState().gdiObjects.objectOf<CGdiObject>(hObject, [=] {
+        CGdiObject* object = newObjectOfKind(hObject);
+        object->m_hObject = hObject;
+        return object;
+    });
 }
 
 void PASCAL CGdiObject::DeleteTempMap() {
@@ -95,9 +88,7 @@ BOOL CGdiObject::Attach(HGDIOBJ hObject) {
 
 HGDIOBJ CGdiObject::Detach() {
     HGDIOBJ handle = m_hObject;
-    if (handle)
-        if (auto* state = existingThreadState())
-            state->gdiObjects.removePermanent(handle, this);
+    orvafx::leaveHandle(&orvafx::ThreadState::gdiObjects, handle, this);
     m_hObject = NULL;
     return handle;
 }

@@ -18,18 +18,11 @@ CMenu* PASCAL CMenu::FromHandlePermanent(HMENU hMenu) {
 }
 
 CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) {
-    if (!hMenu)
-        return NULL;
-    orvafx::HandleMap& map = threadState().menus;
-    CObject* known = map.permanent(hMenu);
-    if (!known)
-        known = map.temporary(hMenu);
-    if (known)
-        return static_cast<CMenu*>(known);
-    auto* menu = new CMenu;
-    menu->m_hMenu = hMenu;
-    map.setTemporary(hMenu, menu);
-    return menu;
+    return threadState().menus.objectOf<CMenu>(hMenu, [=] {
+        auto* menu = new CMenu;
+        menu->m_hMenu = hMenu;
+        return menu;
+    });
 }
 
 void PASCAL CMenu::DeleteTempMap() {
@@ -48,9 +41,7 @@ BOOL CMenu::Attach(HMENU hMenu) {
 
 HMENU CMenu::Detach() {
     const HMENU handle = m_hMenu;
-    if (handle)
-        if (auto* state = orvafx::existingThreadState())
-            state->menus.removePermanent(handle, this);
+    orvafx::leaveHandle(&orvafx::ThreadState::menus, handle, this);
     m_hMenu = NULL;
     return handle;
 }

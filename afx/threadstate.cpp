@@ -107,6 +107,12 @@ ThreadState* existingThreadState() {
     return slot == TLS_OUT_OF_INDEXES ? nullptr : static_cast<ThreadState*>(::TlsGetValue(slot));
 }
 
+void leaveHandle(HandleMap ThreadState::*map, void* handle, const CObject* object) {
+    ThreadState* state = handle ? existingThreadState() : NULL;
+    if (state)
+        (state->*map).removePermanent(handle, object);
+}
+
 ThreadState& threadState() {
     if (ThreadState* state = existingThreadState())
         return *state;

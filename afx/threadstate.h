@@ -27,6 +27,21 @@ public:
         auto it = temporary_.find(handle);
         return it == temporary_.end() ? nullptr : it->second.object;
     }
+    // What FromHandle answers: the handle's object of either kind, or else a temporary one from make. NULL
+    // for no handle.
+    template <class Object, class Make>
+    Object* objectOf(void* handle, Make make) {
+        if (!handle)
+            return NULL;
+        CObject* known = permanent(handle);
+        if (!known)
+            known = temporary(handle);
+        if (known)
+            return static_cast<Object*>(known);
+        Object* object = make();
+        setTemporary(handle, object);
+        return object;
+    }
     void setPermanent(void* handle, CObject* object);
     void removePermanent(void* handle, const CObject* object);
     void setTemporary(void* handle, CObject* object);
@@ -102,6 +117,8 @@ struct ThreadState {
 ThreadState& threadState();
 // The same, null when the thread has none: destructors that run late must not make one.
 ThreadState* existingThreadState();
+// The permanent object leaves its handle, if it has one. It may be such a late one.
+void leaveHandle(HandleMap ThreadState::*map, void* handle, const CObject* object);
 
 // Called by the DLL's entry point.
 bool allocateThreadSlot();

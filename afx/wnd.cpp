@@ -24,17 +24,7 @@ CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) {
 }
 
 CWnd* PASCAL CWnd::FromHandle(HWND hWnd) {
-    if (!hWnd)
-        return NULL;
-    orvafx::HandleMap& map = threadState().windows;
-    if (CObject* known = map.permanent(hWnd))
-        return static_cast<CWnd*>(known);
-    if (CObject* known = map.temporary(hWnd))
-        return static_cast<CWnd*>(known);
-    auto* window = new CWnd;
-    window->m_hWnd = hWnd;
-    map.setTemporary(hWnd, window);
-    return window;
+    return threadState().windows.objectOf<CWnd>(hWnd, [=] { return new CWnd(hWnd); });
 }
 
 void PASCAL CWnd::DeleteTempMap() {
@@ -58,9 +48,7 @@ BOOL CWnd::Attach(HWND hWndNew) {
 
 HWND CWnd::Detach() {
     const HWND handle = m_hWnd;
-    if (handle)
-        if (auto* state = orvafx::existingThreadState())
-            state->windows.removePermanent(handle, this);
+    orvafx::leaveHandle(&orvafx::ThreadState::windows, handle, this);
     WNDPROC* super = GetSuperWndProcAddr();
     if (handle && m_bInChain && *super) {
         orvafx::leaveProcedure(handle, *super, m_bWide);
