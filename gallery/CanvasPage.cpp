@@ -2,11 +2,8 @@
 
 namespace gallery {
 
-BEGIN_MESSAGE_MAP(CanvasPage, CWnd)
+BEGIN_MESSAGE_MAP(CanvasPage, CanvasWnd)
 ON_WM_SETFOCUS()
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_MESSAGE(WM_PRINTCLIENT, &CanvasPage::OnPrintClient)
 END_MESSAGE_MAP()
 
 BOOL CanvasPage::makeIn(CWnd& parent, UINT id) {
@@ -23,26 +20,11 @@ BOOL CanvasPage::PreTranslateMessage(MSG* pMsg) {
             return TRUE;
         }
     }
-    return IsDialogMessage(pMsg) || CWnd::PreTranslateMessage(pMsg);
+    return IsDialogMessage(pMsg) || CanvasWnd::PreTranslateMessage(pMsg);
 }
 
 void CanvasPage::OnSetFocus(CWnd*) {
     firstControl().SetFocus();
-}
-
-void CanvasPage::OnPaint() {
-    CPaintDC dc(this);
-    draw(dc);
-}
-
-LRESULT CanvasPage::OnPrintClient(WPARAM wParam, LPARAM) {
-    if (CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam)))
-        draw(*dc);
-    return 0;
-}
-
-BOOL CanvasPage::OnEraseBkgnd(CDC*) {
-    return TRUE;
 }
 
 } // namespace gallery

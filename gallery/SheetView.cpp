@@ -7,16 +7,13 @@ constexpr int lineStep = 32; // pixels of one arrow
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(SheetView, CWnd)
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
+BEGIN_MESSAGE_MAP(SheetView, CanvasWnd)
 ON_WM_SIZE()
 ON_WM_HSCROLL()
 ON_WM_VSCROLL()
 ON_WM_MOUSEWHEEL()
 ON_WM_KEYDOWN()
 ON_WM_LBUTTONDOWN()
-ON_MESSAGE(WM_PRINTCLIENT, &SheetView::OnPrintClient)
 END_MESSAGE_MAP()
 
 SheetView* SheetView::make(const Sheet& sheet, CWnd& parent, UINT id) {
@@ -47,23 +44,8 @@ void SheetView::draw(CDC& dc) {
     dc.FillSolidRect(CRect(0, shown.cy, shown.cx, client.bottom), desk);
 }
 
-void SheetView::OnPaint() {
-    CPaintDC dc(this);
-    draw(dc);
-}
-
-LRESULT SheetView::OnPrintClient(WPARAM wParam, LPARAM) {
-    if (CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam)))
-        draw(*dc);
-    return 0;
-}
-
-BOOL SheetView::OnEraseBkgnd(CDC*) {
-    return TRUE;
-}
-
 void SheetView::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
+    CanvasWnd::OnSize(nType, cx, cy);
     SCROLLINFO info = {};
     info.fMask = SIF_RANGE | SIF_PAGE;
     info.nMax = m_sheet.width - 1;
@@ -134,7 +116,7 @@ void SheetView::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
             return scroll(key.bar, key.code);
         }
     }
-    CWnd::OnKeyDown(nChar, nRepCnt, nFlags);
+    CanvasWnd::OnKeyDown(nChar, nRepCnt, nFlags);
 }
 
 void SheetView::OnLButtonDown(UINT, CPoint) {

@@ -1,22 +1,20 @@
 #pragma once
 
+#include "CanvasWnd.h"
 #include "Picture.h"
 #include "Sheets.h"
 
 namespace gallery {
 
 // Shows a sheet of the tour and scrolls it: with the wheel, the bars and the keys.
-class SheetView : public CWnd {
+class SheetView : public CanvasWnd {
 public:
-    // NULL when there is no window for it. The view deletes itself with its window.
+    // NULL when there is no window for it.
     static SheetView* make(const Sheet& sheet, CWnd& parent, UINT id);
 
 protected:
-    void PostNcDestroy() override { delete this; }
+    void draw(CDC& dc) override;
 
-    afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -27,7 +25,6 @@ protected:
 
 private:
     explicit SheetView(const Sheet& sheet) : m_sheet(sheet) {}
-    void draw(CDC& dc);
     void scroll(int bar, UINT code);
     void scrollTo(int bar, int position);
 
