@@ -36,10 +36,13 @@ protected:
         ASSERT_TRUE(picker.SubclassDlgItem(IDC_BUTTON, &dialog));
         ASSERT_TRUE(focusOn(picker));
     }
-    HWND open(WORD key = VK_SPACE) {
-        pressKey(key);
+    HWND opened() {
         EXPECT_TRUE(waitUntil([&] { return picker.GetPaletteWindow() != NULL; }));
         return picker.GetPaletteWindow();
+    }
+    HWND open(WORD key = VK_SPACE) {
+        pressKey(key);
+        return opened();
     }
     bool closed() {
         return waitUntil([&] { return picker.GetPaletteWindow() == NULL; });
@@ -122,14 +125,12 @@ TEST_F(ColorPicker, Keys) {
     EXPECT_TRUE(waitUntil([&] { return ::GetFocus() != picker.m_hWnd; })) << "Tab goes on";
     ASSERT_TRUE(focusOn(picker));
     pressKey(VK_MENU, VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return picker.GetPaletteWindow() != NULL; }));
+    EXPECT_TRUE(opened());
 }
 
 TEST_F(ColorPicker, Mouse) {
     click(picker);
-    ASSERT_TRUE(waitUntil([&] { return picker.GetPaletteWindow() != NULL; }));
-    HWND palette = picker.GetPaletteWindow();
-    CPoint at = cellAt(palette, 4);
+    CPoint at = cellAt(opened(), 4);
     clickAt(at.x, at.y);
     EXPECT_TRUE(closed());
     EXPECT_EQ(0xFF0000u, picker.GetColor());
@@ -137,8 +138,7 @@ TEST_F(ColorPicker, Mouse) {
     CRect button;
     picker.GetWindowRect(&button);
     pressMouse(button.CenterPoint().x + 3, button.CenterPoint().y);
-    ASSERT_TRUE(waitUntil([&] { return picker.GetPaletteWindow() != NULL; }));
-    at = cellAt(picker.GetPaletteWindow(), 13);
+    at = cellAt(opened(), 13);
     releaseMouse(at.x, at.y);
     EXPECT_TRUE(closed());
     EXPECT_EQ(0x00FFFFu, picker.GetColor());

@@ -97,9 +97,8 @@ TEST_F(FontPickers, AFaceIsChosenOrTyped) {
     combo.SetCurrentFontName("Alpha");
     EXPECT_EQ(0, combo.GetCurSel());
     ::SetFocus(fieldOf(combo));
-    pressKey(VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 3; }));
-    EXPECT_EQ("CBN_SELCHANGE 7; WM_FONT_NAME_CMB_SELCHANGE 7 0; command of 7; ", dialog.toldText());
+    EXPECT_EQ("CBN_SELCHANGE 7; WM_FONT_NAME_CMB_SELCHANGE 7 0; command of 7; ",
+              dialog.toldBy([] { pressKey(VK_DOWN); }, 3));
     EXPECT_STREQ("Alpha Black", combo.GetCurrentFontName());
     dialog.told.clear();
     type(combo, "beta");

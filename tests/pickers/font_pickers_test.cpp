@@ -167,24 +167,19 @@ TEST_F(FontPickers, ASizeIsReportedInOrder) {
     dialog.settle();
     EXPECT_EQ("", dialog.toldText()) << "code tells nobody";
     ::SetFocus(fieldOf(sizes));
-    pressKey(VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 3; }));
-    EXPECT_EQ("CBN_SELCHANGE 7; WM_FONT_SIZE_CMB_SELCHANGE 7 0; command of 7; ", dialog.toldText());
+    EXPECT_EQ("CBN_SELCHANGE 7; WM_FONT_SIZE_CMB_SELCHANGE 7 0; command of 7; ",
+              dialog.toldBy([] { pressKey(VK_DOWN); }, 3));
     EXPECT_EQ(10, sizes.GetCurrentSize());
     EXPECT_EQ("10.00", textOf(sizes));
     sizes.SetEditSel(0, -1);
     leave();
     EXPECT_EQ(LOWORD(sizes.GetEditSel()), HIWORD(sizes.GetEditSel())) << "no selection is left behind";
-    dialog.told.clear();
     CFontAslopeCmb angles;
     create(angles);
     angles.Init();
     angles.SetInit();
     ::SetFocus(fieldOf(angles));
-    pressKey(VK_DOWN);
-    EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 1; }));
-    dialog.settle();
-    EXPECT_EQ("CBN_SELCHANGE 7; ", dialog.toldText());
+    EXPECT_EQ("CBN_SELCHANGE 7; ", dialog.toldBy([] { pressKey(VK_DOWN); }, 1));
     EXPECT_EQ(15, angles.GetCurrentAngle());
 }
 

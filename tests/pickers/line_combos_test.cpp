@@ -33,11 +33,9 @@ protected:
     // The key chooses the custom row; the user goes through these dialogs, and the parent is told.
     void ask(CWnd& combo, WORD key, const std::vector<InDialogs::Step>& steps) {
         ASSERT_TRUE(focusOn(combo));
-        dialog.settle();
-        dialog.told.clear();
         const InDialogs user(dialog.m_hWnd, steps);
-        pressKey(key);
-        EXPECT_TRUE(waitUntil([&] { return user.done() && dialog.told.size() == 2; }));
+        dialog.toldBy([=] { pressKey(key); }, 2);
+        EXPECT_TRUE(user.done());
     }
     static void cancel(HWND) { pressKey(VK_ESCAPE); }
     // A picker that the program makes itself.
@@ -241,11 +239,8 @@ TEST_F(LineCombos, EachTellsWithItsOwnMessage) {
         make(row.combo);
         row.fill();
         ASSERT_TRUE(focusOn(row.combo));
-        dialog.settle();
-        dialog.told.clear();
-        pressKey(VK_DOWN);
-        EXPECT_TRUE(waitUntil([&] { return dialog.told.size() == 2; }));
-        EXPECT_EQ(std::string("CBN_SELCHANGE 7; ") + row.message + " 7 0; ", dialog.toldText());
+        EXPECT_EQ(std::string("CBN_SELCHANGE 7; ") + row.message + " 7 0; ",
+                  dialog.toldBy([] { pressKey(VK_DOWN); }, 2));
         row.combo.DestroyWindow();
     }
 }

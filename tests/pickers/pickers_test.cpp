@@ -26,6 +26,15 @@ std::string CPickerDlg::toldText() const {
     return text;
 }
 
+std::string CPickerDlg::toldBy(const std::function<void()>& act, size_t lines) {
+    settle();
+    told.clear();
+    act();
+    EXPECT_TRUE(waitUntil([&] { return told.size() >= lines; }));
+    settle();
+    return toldText();
+}
+
 void CPickerDlg::settle() {
     bool arrived = false;
     ::PostMessage(m_hWnd, WM_APP, 0, reinterpret_cast<LPARAM>(&arrived));

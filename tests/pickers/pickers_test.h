@@ -28,6 +28,8 @@ public:
     // Creates and shows it, and waits until it has the keyboard.
     bool open();
     std::string toldText() const;
+    // What it is told by this from now on; so many lines are waited for.
+    std::string toldBy(const std::function<void()>& act, size_t lines);
     // Lets what was posted arrive.
     void settle();
 

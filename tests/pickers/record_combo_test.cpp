@@ -37,23 +37,33 @@ protected:
 
 class RecordCombo : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(dialog.open()); }
-    void TearDown() override { EXPECT_EQ(0, Sample::alive) << "records that nobody deleted"; }
-    void fill(CSampleCombo& combo) {
+    void SetUp() override {
+        ASSERT_TRUE(dialog.open());
+        attach(combo);
+    }
+    void TearDown() override {
+        dialog.DestroyWindow();
+        EXPECT_EQ(0, Sample::alive) << "records that nobody deleted";
+    }
+    void fill(CSampleCombo& one) {
         for (const char* name : {"红色", "绿色", "蓝色", "蓝绿"})
-            combo.Add(name);
+            one.Add(name);
+    }
+    void attach(CSampleCombo& one, int id = IDC_COMBO) {
+        ASSERT_TRUE(one.SubclassDlgItem(id, &dialog));
+        fill(one);
     }
     CPickerDlg dialog;
+    CSampleCombo combo; // attached and filled
 };
 
 TEST_F(RecordCombo, HeightsAreSetHoweverItIsAttached) {
-    CSampleCombo attached, created;
-    ASSERT_TRUE(attached.SubclassDlgItem(IDC_COMBO, &dialog));
+    CSampleCombo created;
     ASSERT_TRUE(created.Create(WS_CHILD | WS_VISIBLE, CRect(10, 130, 200, 230), &dialog, 7));
-    for (CSampleCombo* combo : {&attached, &created}) {
-        fill(*combo);
-        EXPECT_EQ(18, combo->GetItemHeight(0));
-        EXPECT_LE(abs(CRect(partsOf(*combo).rcItem).Height() - 18), 2)
+    fill(created);
+    for (CSampleCombo* one : {&combo, &created}) {
+        EXPECT_EQ(18, one->GetItemHeight(0));
+        EXPECT_LE(abs(CRect(partsOf(*one).rcItem).Height() - 18), 2)
             << "the field, with or without its border";
     }
     EXPECT_EQ(DWORD(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS),
@@ -71,9 +81,6 @@ TEST_F(RecordCombo, HeightsAreSetHoweverItIsAttached) {
 }
 
 TEST_F(RecordCombo, RecordsGoWithTheirItems) {
-    CSampleCombo combo;
-    ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
-    fill(combo);
     EXPECT_EQ(2, combo.Add("间", 2));
     EXPECT_STREQ("间", combo.GetRecord(2)->GetName());
     combo.DeleteString(2);
@@ -93,54 +100,43 @@ TEST_F(RecordCombo, RecordsGoWithTheirItems) {
 }
 
 TEST_F(RecordCombo, EndsInEveryOrder) {
-    CSampleCombo outlives;
-    ASSERT_TRUE(outlives.SubclassDlgItem(IDC_COMBO, &dialog));
-    fill(outlives);
     {
         CSampleCombo first;
-        ASSERT_TRUE(first.SubclassDlgItem(IDC_NO_STRINGS, &dialog));
-        fill(first);
+        attach(first, IDC_NO_STRINGS);
         EXPECT_EQ(8, Sample::alive);
     }
     EXPECT_EQ(4, Sample::alive) << "the object went before its window";
     dialog.DestroyWindow();
     EXPECT_EQ(0, Sample::alive) << "the parent went before the object";
-    EXPECT_EQ(NULL, outlives.m_hWnd);
-    outlives.SetInit();
-    EXPECT_EQ(NULL, outlives.GetRecord(0));
+    EXPECT_EQ(NULL, combo.m_hWnd);
+    combo.SetInit();
+    EXPECT_EQ(NULL, combo.GetRecord(0));
     ASSERT_TRUE(dialog.open());
-    ASSERT_TRUE(outlives.SubclassDlgItem(IDC_COMBO, &dialog));
-    EXPECT_EQ(0, outlives.GetCount());
-    fill(outlives);
-    outlives.SetInit();
-    EXPECT_EQ(0, outlives.GetCurSel());
+    attach(combo);
+    EXPECT_EQ(4, combo.GetCount());
+    combo.SetInit();
+    EXPECT_EQ(0, combo.GetCurSel());
 }
 
 TEST_F(RecordCombo, TypingSearchesTheNames) {
-    for (int id : {IDC_COMBO, IDC_NO_STRINGS}) {
-        CSampleCombo combo;
-        ASSERT_TRUE(combo.SubclassDlgItem(id, &dialog));
-        fill(combo);
-        ASSERT_TRUE(focusOn(combo));
+    CSampleCombo other;
+    attach(other, IDC_NO_STRINGS);
+    for (CSampleCombo* one : {&combo, &other}) {
+        ASSERT_TRUE(focusOn(*one));
         typeText(wideText("蓝绿"));
-        EXPECT_TRUE(waitUntil([&] { return combo.GetCurSel() == 3; })) << id;
-        EXPECT_EQ(2, combo.changes) << "first to 蓝色, then on";
+        EXPECT_TRUE(waitUntil([&] { return one->GetCurSel() == 3; }));
+        EXPECT_EQ(2, one->changes) << "first to 蓝色, then on";
         CString text;
-        combo.GetWindowText(text);
+        one->GetWindowText(text);
         EXPECT_STREQ("蓝绿", text);
         char cut[4];
-        EXPECT_EQ(2, combo.GetWindowText(cut, 4)) << "never half a character";
+        EXPECT_EQ(2, one->GetWindowText(cut, 4)) << "never half a character";
         pressKey(VK_HOME);
-        EXPECT_TRUE(waitUntil([&] { return combo.GetCurSel() == 0; })) << id;
-        dialog.settle();
-        dialog.told.clear();
+        EXPECT_TRUE(waitUntil([&] { return one->GetCurSel() == 0; }));
     }
 }
 
 TEST_F(RecordCombo, ChoicesAreToldToAMessageWindow) {
-    CSampleCombo combo;
-    ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
-    fill(combo);
     combo.SetInit();
     CPickerDlg other;
     ASSERT_TRUE(other.Create(IDD_PICKERS));
@@ -157,8 +153,6 @@ TEST_F(RecordCombo, ChoicesAreToldToAMessageWindow) {
 }
 
 TEST_F(RecordCombo, DrawsOnlyWhatHasARecord) {
-    CSampleCombo combo;
-    ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
     Picture picture(40, 18);
     DRAWITEMSTRUCT item = {};
     item.hDC = picture.dc.m_hDC;
