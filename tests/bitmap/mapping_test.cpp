@@ -115,22 +115,35 @@ TEST(BitmapMapping, CopiesIntoAFileAtEveryDepth) {
     const ScratchFolder folder;
     const CString path = folder.path("copy.bmp");
     for (const Depth& depth : depths()) {
-        SCOPED_TRACE(depth.name);
-        COrvDib dib = ReadDib(pictureFile(depth, 7, 5)), again;
-        dib.m_dRadian = 0.25;
-        const DWORD length = dib.GetFileLength();
-        ASSERT_TRUE(dib.CopyToMapFile(path));
-        EXPECT_EQ(0.25, dib.GetRadian());
-        EXPECT_TRUE(dib.m_pMapView);
-        for (COrvDib* one : {&dib, &again}) {
-            expectPicture(*one, depth, 7, 5);
+        for (const int height : {5, -5}) {
+            SCOPED_TRACE(testing::Message() << depth.name << " " << height);
+            ReadDib dib(pictureFile(depth, 7, height));
+            dib.m_dRadian = 0.25;
+            const DWORD length = dib.GetFileLength();
+            ASSERT_TRUE(dib.CopyToMapFile(path));
+            EXPECT_EQ(0.25, dib.GetRadian());
+            EXPECT_TRUE(dib.m_pMapView);
+            expectPicture(dib, depth, 7, 5);
             // It works in the file now.
             dib.SetPiexelIndex(0, 0, dib.GetPixelIndex(0, 0));
             dib.Empty();
             const Bytes bytes = readFile(path);
             EXPECT_EQ(length, bytes.size());
             EXPECT_EQ(length, *reinterpret_cast<const DWORD*>(&bytes[2]));
-            ASSERT_TRUE(readBytes(again, bytes));
+            expectPicture(ReadDib(bytes), depth, 7, 5);
+            if (height < 0)
+                continue;
+            // The system's own reader, which takes no rows from the top down, sees the same.
+            CBitmap loaded;
+            ASSERT_TRUE(loaded.Attach(
+                ::LoadImageA(NULL, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
+            CDC dc;
+            dc.CreateCompatibleDC(NULL);
+            CBitmap* const old = dc.SelectObject(&loaded);
+            for (int y = 0; y < 5; ++y)
+                for (int x = 0; x < 7; ++x)
+                    EXPECT_EQ(pictureColor(depth, x, y), dc.GetPixel(x, y)) << x << ", " << y;
+            dc.SelectObject(old);
         }
     }
     COrvDib empty;
