@@ -15,9 +15,20 @@ class Parcel : public CObject {
 public:
     Parcel() { all().insert(this); }
     ~Parcel() override { all().erase(this); }
-    void Serialize(CArchive& ar) override;
+    void Serialize(CArchive& ar) override {
+        if (m_onSerialize)
+            m_onSerialize();
+        if (ar.IsStoring())
+            ar << m_nWeight;
+        else
+            ar >> m_nWeight;
+    }
 
-    static std::set<Parcel*>& all(); // that live
+    // That live.
+    static std::set<Parcel*>& all() {
+        static std::set<Parcel*> parcels;
+        return parcels;
+    }
 
     LONG m_nWeight = 0;
     std::function<void()> m_onSerialize; // called first, when there is one

@@ -15,8 +15,15 @@ namespace orv::test {
 // A key of this process's own, gone at the end. Failed assertions are counted and passed over.
 class RegistryTest : public testing::Test {
 protected:
-    RegistryTest();
-    ~RegistryTest() override;
+    RegistryTest() {
+        ::RegDeleteTreeA(HKEY_CURRENT_USER, path_.c_str());
+        ::RegCreateKeyExA(HKEY_CURRENT_USER, path_.c_str(), 0, NULL, 0, KEY_ALL_ACCESS, NULL, &key_, NULL);
+    }
+    ~RegistryTest() override {
+        ::RegCloseKey(key_);
+        EXPECT_EQ(ERROR_SUCCESS, ::RegDeleteTreeA(HKEY_CURRENT_USER, path_.c_str()));
+        EXPECT_TRUE(::HeapValidate(::GetProcessHeap(), 0, NULL));
+    }
 
     std::string path(const char* below = "") const { return path_ + below; }
     HKEY key() const { return key_; }
@@ -37,14 +44,29 @@ protected:
         DWORD type;
         std::vector<BYTE> bytes;
     };
-    Value value(const char* name) const;
-    void setValue(const char* name, DWORD type, const std::vector<BYTE>& bytes) const;
-    size_t valueCount() const;
+    Value value(const char* name) const {
+        DWORD type = REG_NONE, size = 0;
+        EXPECT_EQ(ERROR_SUCCESS, ::RegQueryValueExA(key_, name, NULL, &type, NULL, &size)) << name;
+        std::vector<BYTE> bytes(size);
+        EXPECT_EQ(ERROR_SUCCESS, ::RegQueryValueExA(key_, name, NULL, &type, bytes.data(), &size)) << name;
+        bytes.resize(size);
+        return {type, bytes};
+    }
+    void setValue(const char* name, DWORD type, const std::vector<BYTE>& bytes) const {
+        EXPECT_EQ(ERROR_SUCCESS,
+                  ::RegSetValueExA(key_, name, 0, type, bytes.data(), static_cast<DWORD>(bytes.size())));
+    }
+    size_t valueCount() const {
+        DWORD count = 0;
+        EXPECT_EQ(ERROR_SUCCESS, ::RegQueryInfoKeyA(key_, NULL, NULL, NULL, NULL, NULL, NULL, &count, NULL,
+                                                    NULL, NULL, NULL));
+        return count;
+    }
 
     DebugEvents events_;
 
 private:
-    std::string path_;
+    const std::string path_ = "Software\\ORVFC-test-" + std::to_string(::GetCurrentProcessId());
     HKEY key_ = NULL;
 };
 

@@ -13,6 +13,10 @@
 using namespace orv;
 using test::Parcel;
 
+namespace orv::test {
+IMPLEMENT_SERIAL(Parcel, CObject, 3)
+}
+
 namespace {
 
 StreamBytes bytes(const char* hex) {
