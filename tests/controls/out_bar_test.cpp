@@ -17,6 +17,7 @@ TEST(OutBarNew, StartsWithItsDefaults) {
     EXPECT_EQ(::GetSysColor(COLOR_WINDOW), bar.m_crWindow2);
     EXPECT_TRUE(bar.m_hHandCursor && bar.m_hDragCursor && bar.m_hNoDragCursor);
     EXPECT_NE(bar.m_hHandCursor, bar.m_hDragCursor);
+    EXPECT_EQ(::RegisterWindowMessageA("WM_GFX_OUTBAR_LBUTTON_DOWN"), WM_GFX_OUTBAR_LBUTTON_DOWN);
     // It holds rows before it has a window.
     CBarHost parent;
     ASSERT_TRUE(parent.make());

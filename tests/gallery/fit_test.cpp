@@ -5,6 +5,7 @@
 using gallery::Bounds;
 using gallery::Fit;
 using gallery::Projection;
+using enum gallery::Projection;
 
 namespace {
 
@@ -25,26 +26,22 @@ struct PixelRow {
 };
 
 const PixelRow pixelRows[] = {
-    {"lower left corner", boundsOf(0, 0, 100, 100), Projection::plane, 101, 101, 0, 0, 0, 0, 100},
-    {"y runs up", boundsOf(0, 0, 100, 100), Projection::plane, 101, 101, 0, 0, 100, 0, 0},
-    {"margin", boundsOf(0, 0, 80, 80), Projection::plane, 101, 101, 10, 0, 0, 10, 90},
-    {"wide picture: centred, one scale", boundsOf(0, 0, 100, 100), Projection::plane, 301, 101, 0, 0, 0, 100,
-     100},
-    {"wide world: centred, one scale", boundsOf(0, 0, 300, 100), Projection::plane, 301, 301, 0, 0, 0, 0,
-     200},
-    {"degrees at 60 north: half as wide", boundsOf(0, 50, 40, 70), Projection::degrees, 101, 201, 0, 40, 70,
-     100, 50},
-    {"the same as a plane", boundsOf(0, 50, 40, 70), Projection::plane, 101, 201, 0, 40, 70, 100, 75},
-    {"one point", boundsOf(7, 7, 7, 7), Projection::plane, 101, 51, 5, 7, 7, 50, 25},
-    {"upright line", boundsOf(7, 0, 7, 40), Projection::plane, 101, 51, 5, 7, 40, 50, 5},
-    {"level line", boundsOf(0, 7, 90, 7), Projection::plane, 101, 51, 5, 90, 7, 95, 25},
-    {"margin larger than the picture", boundsOf(0, 0, 10, 10), Projection::plane, 5, 5, 100, 10, 10, 2, 2},
-    {"a single pixel", boundsOf(0, 0, 10, 10), Projection::plane, 1, 1, 10, 10, 10, 0, 0},
-    {"outside the bounds", boundsOf(0, 0, 10, 10), Projection::plane, 11, 11, 0, 1e15, -1e15, 10, 10},
-    {"largest coordinates", boundsOf(-1e15, -1e15, 1e15, 1e15), Projection::plane, 101, 101, 0, 1e15, 1e15,
-     100, 0},
-    {"span near nothing", boundsOf(0, 0, 5e-324, 5e-324), Projection::plane, 101, 101, 0, 5e-324, 0, 50, 50},
-    {"pole", boundsOf(-180, 90, 180, 90), Projection::degrees, 101, 101, 0, 180, 90, 100, 50},
+    {"lower left corner", boundsOf(0, 0, 100, 100), plane, 101, 101, 0, 0, 0, 0, 100},
+    {"y runs up", boundsOf(0, 0, 100, 100), plane, 101, 101, 0, 0, 100, 0, 0},
+    {"margin", boundsOf(0, 0, 80, 80), plane, 101, 101, 10, 0, 0, 10, 90},
+    {"wide picture: centred, one scale", boundsOf(0, 0, 100, 100), plane, 301, 101, 0, 0, 0, 100, 100},
+    {"wide world: centred, one scale", boundsOf(0, 0, 300, 100), plane, 301, 301, 0, 0, 0, 0, 200},
+    {"degrees at 60 north: half as wide", boundsOf(0, 50, 40, 70), degrees, 101, 201, 0, 40, 70, 100, 50},
+    {"the same as a plane", boundsOf(0, 50, 40, 70), plane, 101, 201, 0, 40, 70, 100, 75},
+    {"one point", boundsOf(7, 7, 7, 7), plane, 101, 51, 5, 7, 7, 50, 25},
+    {"upright line", boundsOf(7, 0, 7, 40), plane, 101, 51, 5, 7, 40, 50, 5},
+    {"level line", boundsOf(0, 7, 90, 7), plane, 101, 51, 5, 90, 7, 95, 25},
+    {"margin larger than the picture", boundsOf(0, 0, 10, 10), plane, 5, 5, 100, 10, 10, 2, 2},
+    {"a single pixel", boundsOf(0, 0, 10, 10), plane, 1, 1, 10, 10, 10, 0, 0},
+    {"outside the bounds", boundsOf(0, 0, 10, 10), plane, 11, 11, 0, 1e15, -1e15, 10, 10},
+    {"largest coordinates", boundsOf(-1e15, -1e15, 1e15, 1e15), plane, 101, 101, 0, 1e15, 1e15, 100, 0},
+    {"span near nothing", boundsOf(0, 0, 5e-324, 5e-324), plane, 101, 101, 0, 5e-324, 0, 50, 50},
+    {"pole", boundsOf(-180, 90, 180, 90), degrees, 101, 101, 0, 180, 90, 100, 50},
 };
 
 TEST(Fit, Pixels) {
@@ -73,7 +70,7 @@ TEST(Fit, DropsRepeatedPixels) {
         gallery::WktLines lines;
         gallery::WktError error;
         ASSERT_TRUE(gallery::parseWkt(row.text, lines, error));
-        const Fit fit(boundsOf(0, 0, 100, 100), Projection::plane, 101, 101, 0);
+        const Fit fit(boundsOf(0, 0, 100, 100), plane, 101, 101, 0);
         EXPECT_EQ(fit.toPixels(lines, lines.figures.front()).size(), row.pixels);
     }
 }

@@ -72,25 +72,17 @@ TEST(Options, Tasks) {
     }
 }
 
-TEST(Options, ReadsThePicture) {
-    Options options;
-    std::string message;
-    ASSERT_TRUE(parse("--draw a --out b.BMP --size 16384X1 --plane", options, message)) << message;
-    EXPECT_EQ(options.task, Options::Task::draw);
-    EXPECT_EQ(options.picture, "b.BMP");
-    EXPECT_EQ(options.pictureWidth, 16384);
-    EXPECT_EQ(options.pictureHeight, 1);
-    EXPECT_TRUE(options.plane);
-    EXPECT_EQ(options.layers.front().type, 3);
-}
-
 TEST(Options, StylesBelongToTheirLayer) {
     Options options;
     std::string message;
     ASSERT_TRUE(
-        parse("--color #102030 --draw a --draw b --type 101 --width 8 --draw c --color aBcDeF --out p.png",
+        parse("--color #102030 --draw a --draw b --type 101 --width 8 --draw c --color aBcDeF --out p.BMP "
+              "--size 16384X1 --plane",
               options, message))
         << message;
+    EXPECT_EQ(options.task, Options::Task::draw);
+    EXPECT_EQ(options.picture, "p.BMP");
+    EXPECT_TRUE(options.pictureWidth == 16384 && options.pictureHeight == 1 && options.plane);
     struct {
         const char* file;
         int type;

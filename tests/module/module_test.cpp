@@ -31,22 +31,6 @@ TEST(Module, TracesItsLoadAndItsUnload) {
     EXPECT_EQ("ORVFC.DLL Initializing!\nORVFC.DLL Terminating!\n", events.text());
 }
 
-TEST(Module, RegistersTheMessagesUnderTheirOwnNames) {
-    HMODULE library = ::LoadLibraryA("ORVFC.dll");
-    ASSERT_TRUE(library);
-    for (const char* name :
-         {"WM_FONT_NAME_CMB_SELCHANGE", "WM_FONT_SIZE_CMB_SELCHANGE", "WM_GFX_OUTBAR_LBUTTON_DOWN",
-          "WM_LINE_COLOR_CMB_SELCHANGE", "WM_LINE_STYLE_CMB_SELCHANGE", "WM_LINE_WIDTH_CMB_SELCHANGE",
-          "WM_BRUSH_FIGURE_CMB_SELCHANGE", "WM_FILL_TYPE_CMB_SELCHANGE"}) {
-        auto message =
-            reinterpret_cast<const UINT*>(reinterpret_cast<INT_PTR>(::GetProcAddress(library, name)));
-        ASSERT_TRUE(message) << name;
-        EXPECT_EQ(::RegisterWindowMessageA(name), *message) << name;
-        EXPECT_GE(*message, 0xC000u) << name;
-    }
-    ::FreeLibrary(library);
-}
-
 TEST(Module, ResourcesAndClassesAreFoundAlongTheChainWhileItIsLoaded) {
     CString text;
     EXPECT_FALSE(text.LoadString(200));

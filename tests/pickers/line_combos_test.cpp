@@ -23,13 +23,14 @@ public:
     using CColorCmb::SwapColorIndex;
 };
 
+template <class Combo>
+struct Attached : Combo {
+    explicit Attached(CPickerDlg& dialog) { EXPECT_TRUE(this->SubclassDlgItem(IDC_COMBO, &dialog)); }
+};
+
 class LineCombos : public testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(dialog.open()); }
-    template <class Combo>
-    void attach(Combo& combo) {
-        ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
-    }
     // The key chooses the custom row; the user goes through these dialogs, and the parent is told.
     void ask(CWnd& combo, WORD key, const std::vector<InDialogs::Step>& steps) {
         ASSERT_TRUE(focusOn(combo));
@@ -46,8 +47,7 @@ protected:
 };
 
 TEST_F(LineCombos, ColorsFromASet) {
-    CTestColorCmb combo;
-    attach(combo);
+    Attached<CTestColorCmb> combo(dialog);
     CColorSet set;
     EXPECT_EQ(20, combo.AddItem(&set));
     EXPECT_EQ(0, combo.AddItem(static_cast<CColorSet*>(NULL)));
@@ -87,8 +87,7 @@ TEST_F(LineCombos, ColorsFromASet) {
 }
 
 TEST_F(LineCombos, ColorRowsMove) {
-    CTestColorCmb combo;
-    attach(combo);
+    Attached<CTestColorCmb> combo(dialog);
     combo.AddItem(1, "一");
     combo.AddItem(0, "其它...");
     combo.AddItem(2, CString("二"));
@@ -119,8 +118,7 @@ TEST_F(LineCombos, ColorRowsMove) {
 }
 
 TEST_F(LineCombos, Widths) {
-    CLineWidthCmb combo;
-    attach(combo);
+    Attached<CLineWidthCmb> combo(dialog);
     CLineWidthSet set;
     EXPECT_EQ(13, combo.AddItem(&set));
     EXPECT_EQ(0, combo.AddItem(static_cast<CLineWidthSet*>(NULL)));
@@ -210,7 +208,7 @@ TEST_F(LineCombos, EmptyListsAndNoWindow) {
     color.SetCustormToBottom();
     EXPECT_EQ(0, color.SwapColorIndex(0, 0));
     figure.ResetColor(1);
-    attach(color);
+    ASSERT_TRUE(color.SubclassDlgItem(IDC_COMBO, &dialog));
     color.SetCustormToBottom();
     EXPECT_EQ(1, color.SetCurrentColor(0x0000FF));
     EXPECT_EQ("红色", textsOf(color)) << "the only row";
@@ -247,8 +245,7 @@ TEST_F(LineCombos, EachTellsWithItsOwnMessage) {
 
 // The value dialog over the row 其它....
 TEST_F(LineCombos, AskingForAWidth) {
-    CLineWidthCmb combo;
-    attach(combo);
+    Attached<CLineWidthCmb> combo(dialog);
     CLineWidthSet set;
     combo.AddItem(&set);
     combo.SetCurrentWidth(2);
@@ -287,8 +284,7 @@ TEST_F(LineCombos, AskingForAWidth) {
 
 // The system's dialog of colours.
 TEST_F(LineCombos, AskingForAColor) {
-    CTestColorCmb combo;
-    attach(combo);
+    Attached<CTestColorCmb> combo(dialog);
     CColorSet set;
     combo.AddItem(&set);
     combo.SetCurSel(8); // the second 绿色
@@ -301,8 +297,7 @@ TEST_F(LineCombos, AskingForAColor) {
 }
 
 TEST_F(LineCombos, TheOpenListAsksWhenItIsClosed) {
-    CTestColorCmb combo;
-    attach(combo);
+    Attached<CTestColorCmb> combo(dialog);
     combo.ResetColors();
     combo.SetCurrentColor(0x0000FF);
     ASSERT_TRUE(focusOn(combo));
@@ -323,8 +318,7 @@ TEST_F(LineCombos, TheOpenListAsksWhenItIsClosed) {
 }
 
 TEST_F(LineCombos, AClickInTheOpenListCountsWhereverTheKeysStand) {
-    CTestColorCmb combo;
-    attach(combo);
+    Attached<CTestColorCmb> combo(dialog);
     combo.ResetColors();
     ASSERT_TRUE(focusOn(combo));
     const struct {
@@ -361,16 +355,14 @@ TEST_F(LineCombos, AClickInTheOpenListCountsWhereverTheKeysStand) {
 }
 
 TEST_F(LineCombos, TheCustomRowAlone) {
-    CLineWidthCmb combo;
-    attach(combo);
+    Attached<CLineWidthCmb> combo(dialog);
     combo.AddItem(1, "其它...");
     ask(combo, VK_DOWN, {{"输入数值", cancel}});
     EXPECT_EQ(-1, combo.GetCurSel()) << "nothing stays selected";
 }
 
 TEST_F(LineCombos, TheParentMayGoWhileTheUserIsAsked) {
-    CLineWidthCmb combo;
-    attach(combo);
+    Attached<CLineWidthCmb> combo(dialog);
     combo.AddItem(2, "2");
     combo.AddItem(1, "其它...");
     combo.SetInit();
@@ -381,7 +373,7 @@ TEST_F(LineCombos, TheParentMayGoWhileTheUserIsAsked) {
     EXPECT_EQ(NULL, combo.m_hWnd);
     // A new window knows nothing of the choice in the one before.
     ASSERT_TRUE(dialog.open());
-    attach(combo);
+    ASSERT_TRUE(combo.SubclassDlgItem(IDC_COMBO, &dialog));
     combo.AddItem(1, "其它...");
     combo.AddItem(2, "2");
     ask(combo, VK_DOWN, {{"输入数值", cancel}});

@@ -42,10 +42,10 @@ public:
             break;
         }
         case EMR_SETTEXTCOLOR:
-            textColor_ = as<EMRSETTEXTCOLOR>(record).crColor;
+            now_.textColor = as<EMRSETTEXTCOLOR>(record).crColor;
             break;
         case EMR_SAVEDC:
-            saved_.push_back({pen_, brush_, escapement_, textColor_});
+            saved_.push_back(now_);
             break;
         case EMR_RESTOREDC:
             restore(as<EMRRESTOREDC>(record).iRelative);
@@ -98,7 +98,7 @@ public:
             inPath_ = false;
             break;
         case EMR_STROKEPATH:
-            seen.push_back("path " + strokeText({{}, pen_.width, pen_.color, false, 0}));
+            seen.push_back("path " + strokeText({{}, now_.pen.width, now_.pen.color, false, 0}));
             break;
         }
     }
@@ -122,15 +122,15 @@ private:
 
     void select(DWORD object) {
         if (object == (ENHMETA_STOCK_OBJECT | NULL_PEN))
-            pen_ = {PS_NULL, 0, 0};
+            now_.pen = {PS_NULL, 0, 0};
         else if (object == (ENHMETA_STOCK_OBJECT | BLACK_PEN))
-            pen_ = {PS_SOLID, 0, 0};
+            now_.pen = {PS_SOLID, 0, 0};
         else if (auto pen = pens_.find(object); pen != pens_.end())
-            pen_ = pen->second;
+            now_.pen = pen->second;
         else if (auto brush = brushes_.find(object); brush != brushes_.end())
-            brush_ = brush->second;
+            now_.brush = brush->second;
         else if (auto font = fonts_.find(object); font != fonts_.end())
-            escapement_ = font->second;
+            now_.escapement = font->second;
     }
 
     // level: negative, counted back from the last one saved, or the number of one.
@@ -138,11 +138,7 @@ private:
         const size_t kept = level < 0 ? saved_.size() + level : size_t(level - 1);
         if (kept >= saved_.size())
             return;
-        const State& state = saved_[kept];
-        pen_ = state.pen;
-        brush_ = state.brush;
-        escapement_ = state.escapement;
-        textColor_ = state.textColor;
+        now_ = saved_[kept];
         saved_.resize(kept);
     }
 
@@ -155,34 +151,31 @@ private:
         char part[64];
         snprintf(part, sizeof(part), "text %d,%d ", int(text.ptlReference.x), int(text.ptlReference.y));
         std::string line = part + std::string(bytes, size_t(count));
-        snprintf(part, sizeof(part), " %06X", unsigned(textColor_));
+        snprintf(part, sizeof(part), " %06X", unsigned(now_.textColor));
         line += part;
-        if (escapement_ != 0)
-            line += " turned " + std::to_string(escapement_);
+        if (now_.escapement != 0)
+            line += " turned " + std::to_string(now_.escapement);
         seen.push_back(line);
     }
 
     void draw(std::vector<POINT> points, bool filled) {
-        if (inPath_ || (!filled && (pen_.style & PS_STYLE_MASK) == PS_NULL))
+        if (inPath_ || (!filled && (now_.pen.style & PS_STYLE_MASK) == PS_NULL))
             return;
-        seen.push_back(strokeText({std::move(points), pen_.width, pen_.color, filled, brush_}));
+        seen.push_back(strokeText({std::move(points), now_.pen.width, now_.pen.color, filled, now_.brush}));
     }
 
     struct State {
-        Pen pen;
-        COLORREF brush;
-        int escapement;
-        COLORREF textColor;
+        Pen pen = {PS_SOLID, 0, 0};
+        COLORREF brush = 0xFFFFFF;
+        int escapement = 0;
+        COLORREF textColor = 0;
     };
 
+    State now_;
     std::map<DWORD, Pen> pens_;
     std::map<DWORD, int> fonts_;
     std::vector<State> saved_;
-    int escapement_ = 0;
-    COLORREF textColor_ = 0;
     std::map<DWORD, COLORREF> brushes_;
-    Pen pen_ = {PS_SOLID, 0, 0};
-    COLORREF brush_ = 0xFFFFFF;
     POINT position_ = {0, 0};
     bool inPath_ = false;
 };

@@ -5,6 +5,7 @@
 #include <float.h>
 #include <functional>
 #include <limits.h>
+#include <thread>
 
 using namespace orv::test;
 
@@ -179,16 +180,7 @@ TEST_F(Exchange, AFixedBufferKeepsWholeCharacters) {
 TEST(ThreadObject, IsTheApplicationInItsOwnThreadOnly) {
     EXPECT_EQ(&theApp, AfxGetThread());
     CWinThread* other = &theApp;
-    HANDLE thread = ::CreateThread(
-        NULL, 0,
-        [](LPVOID answer) -> DWORD {
-            *static_cast<CWinThread**>(answer) = AfxGetThread();
-            return 0;
-        },
-        &other, 0, NULL);
-    ASSERT_TRUE(thread);
-    ::WaitForSingleObject(thread, INFINITE);
-    ::CloseHandle(thread);
+    std::thread([&] { other = AfxGetThread(); }).join();
     EXPECT_EQ(NULL, other);
 }
 
