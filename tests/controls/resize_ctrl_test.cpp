@@ -374,8 +374,9 @@ TEST(ResizeCtrl, NothingOfTheOldPictureStays) {
         CResizeInfo shares = row.shares;
         shares.hWnd = child;
         ASSERT_TRUE(control.Add(&shares));
-        if (row.style == BS_GROUPBOX)
+        if (row.style == BS_GROUPBOX) {
             ASSERT_TRUE(control.Add(parent.child({60, 60, 90, 90}), 0, 0, 0, 0));
+        }
         shown(parent.window);
         for (const CSize size : {CSize(440, 330), CSize(500, 360), CSize(380, 290)}) {
             parent.size(size.cx, size.cy);
