@@ -58,20 +58,13 @@ void COrvFontComboBox::SetNormalColors(COLORREF crText, COLORREF crBack) {
 // --- attaching
 
 BOOL COrvFontComboBox::PreCreateWindow(CREATESTRUCT& cs) {
-    cs.style |= CBS_HASSTRINGS;
-    if (!(cs.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)))
-        cs.style |= CBS_OWNERDRAWFIXED;
-    if (!(cs.style & CBS_DROPDOWNLIST))
-        cs.style |= CBS_DROPDOWNLIST | CBS_SORT;
+    orv::completeStyle(cs, CBS_DROPDOWNLIST | CBS_SORT);
     return CComboBox::PreCreateWindow(cs);
 }
 
 void COrvFontComboBox::PreSubclassWindow() {
     CComboBox::PreSubclassWindow();
-    // Before its WM_CREATE there is no list to set heights for.
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    if (GetComboBoxInfo(&info) && info.hwndList)
+    if (orv::hasList(*this))
         Attached();
 }
 
@@ -82,12 +75,6 @@ int COrvFontComboBox::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return nResult;
 }
 
-void COrvFontComboBox::SetHeights() {
-    const UINT nHeight = static_cast<UINT>(orv::rowHeight(*this, kRowHeight));
-    SetItemHeight(-1, nHeight);
-    SetItemHeight(0, nHeight);
-}
-
 // Only owner-drawn combos say when an item goes; without strings an item's text itself would be its data.
 BOOL COrvFontComboBox::OwnsFonts() const {
     return (GetStyle() & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0 &&
@@ -95,7 +82,7 @@ BOOL COrvFontComboBox::OwnsFonts() const {
 }
 
 void COrvFontComboBox::Attached() {
-    SetHeights();
+    orv::setRowHeights(*this, kRowHeight);
     m_bFilled = FALSE;
     PostMessage(kInitFonts);
 }
@@ -153,7 +140,7 @@ LRESULT COrvFontComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return CB_ERR;
     const LRESULT nResult = CComboBox::WindowProc(message, wParam, lParam);
     if (message == WM_SETFONT)
-        SetHeights();
+        orv::setRowHeights(*this, kRowHeight);
     return nResult;
 }
 

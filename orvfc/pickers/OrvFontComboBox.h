@@ -54,7 +54,6 @@ protected:
 
 private:
     void Attached();
-    void SetHeights();
     BOOL OwnsFonts() const;
 
     OrvFontComboStyle m_nStyle;

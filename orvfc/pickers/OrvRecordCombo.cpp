@@ -31,39 +31,21 @@ COrvRecordCombo::~COrvRecordCombo() {
 // --- attaching
 
 BOOL COrvRecordCombo::PreCreateWindow(CREATESTRUCT& cs) {
-    cs.style |= CBS_HASSTRINGS;
-    if (!(cs.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)))
-        cs.style |= CBS_OWNERDRAWFIXED;
-    if (!(cs.style & CBS_DROPDOWNLIST))
-        cs.style |= CBS_DROPDOWNLIST;
+    orv::completeStyle(cs, CBS_DROPDOWNLIST);
     return CComboBox::PreCreateWindow(cs);
 }
 
 void COrvRecordCombo::PreSubclassWindow() {
     CComboBox::PreSubclassWindow();
-    // Before its WM_CREATE there is no list to set heights for.
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    if (GetComboBoxInfo(&info) && info.hwndList)
-        SetHeights();
+    if (orv::hasList(*this))
+        orv::setRowHeights(*this, m_nRowHeight);
 }
 
 int COrvRecordCombo::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     const int nResult = CComboBox::OnCreate(lpCreateStruct);
     if (nResult == 0)
-        SetHeights();
+        orv::setRowHeights(*this, m_nRowHeight);
     return nResult;
-}
-
-UINT COrvRecordCombo::RowHeight() const {
-    return static_cast<UINT>(orv::rowHeight(*this, m_nRowHeight));
-}
-
-// In a dialog WM_MEASUREITEM has come and gone before the combo is attached.
-void COrvRecordCombo::SetHeights() {
-    const UINT nHeight = RowHeight();
-    SetItemHeight(-1, nHeight);
-    SetItemHeight(0, nHeight);
 }
 
 BOOL COrvRecordCombo::OwnsItems() const {
@@ -276,7 +258,7 @@ LRESULT COrvRecordCombo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
         break;
     case WM_SETFONT:
         CComboBox::WindowProc(message, wParam, lParam);
-        SetHeights();
+        orv::setRowHeights(*this, m_nRowHeight);
         return 0;
     case CB_SETCURSEL:
     case CB_SELECTSTRING: {

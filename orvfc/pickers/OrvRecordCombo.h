@@ -126,8 +126,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    UINT RowHeight() const;
-    void SetHeights();
     void SetRecord(int nIndex, COrvCmbRecord* pRecord);
     BOOL OwnsItems() const;
     BOOL HasStrings() const;

@@ -68,4 +68,24 @@ int rowHeight(const CWnd& combo, int nLeast) {
     return std::max<int>(nLeast, metrics.tmHeight + 2 * nFrame);
 }
 
+void setRowHeights(CComboBox& combo, int nLeast) {
+    const UINT nHeight = static_cast<UINT>(rowHeight(combo, nLeast));
+    combo.SetItemHeight(-1, nHeight);
+    combo.SetItemHeight(0, nHeight);
+}
+
+bool hasList(const CComboBox& combo) {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    return combo.GetComboBoxInfo(&info) && info.hwndList;
+}
+
+void completeStyle(CREATESTRUCT& cs, DWORD nKind) {
+    cs.style |= CBS_HASSTRINGS;
+    if (!(cs.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)))
+        cs.style |= CBS_OWNERDRAWFIXED;
+    if (!(cs.style & CBS_DROPDOWNLIST)) // the bits of all kinds
+        cs.style |= nKind;
+}
+
 } // namespace orv

@@ -1,6 +1,6 @@
 #pragma once
 
-// The steps by which the rows of the owner-drawn combos are drawn.
+// The steps by which the owner-drawn combos get their rows and draw them.
 
 #include <afxwin.h>
 
@@ -29,5 +29,12 @@ void paintName(CDC* pDC, const CRect& rc, int nLeft, const CString& strName, int
 
 // The height of a combo's rows in pixels: nLeast, or more where its font needs that.
 int rowHeight(const CWnd& combo, int nLeast);
+// Gives it to the rows of the list and of the field. In a dialog WM_MEASUREITEM has come and gone before the
+// combo is attached.
+void setRowHeights(CComboBox& combo, int nLeast);
+// False before its WM_CREATE: there are no rows to set heights for.
+bool hasList(const CComboBox& combo);
+// Adds what an owner-drawn combo with texts needs, and nKind where the host asked for no kind of combo.
+void completeStyle(CREATESTRUCT& cs, DWORD nKind);
 
 } // namespace orv
