@@ -6,6 +6,8 @@
 class ORVFC_API CCmbFontAlignData : public COrvCmbRecord {
 public:
     explicit CCmbFontAlignData(UINT nFlag = 0) : m_nFlag(nFlag) {}
+    CCmbFontAlignData(const CCmbFontAlignData&) = default;
+    CCmbFontAlignData& operator=(const CCmbFontAlignData&) = default;
     CString GetName() const override { return GetFlagString(m_nFlag); }
     void DrawItem(CDC* pDC, const CRect& rc, int nState) override;
 

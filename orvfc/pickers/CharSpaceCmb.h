@@ -6,6 +6,8 @@
 class ORVFC_API CCmbCharSpaceData : public COrvCmbValueRecord {
 public:
     explicit CCmbCharSpaceData(double dDist = 0) : COrvCmbValueRecord(dDist) {}
+    CCmbCharSpaceData(const CCmbCharSpaceData&) = default;
+    CCmbCharSpaceData& operator=(const CCmbCharSpaceData&) = default;
     CString GetName() const override;
 };
 

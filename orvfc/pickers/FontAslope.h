@@ -6,6 +6,8 @@
 class ORVFC_API CCmbFontAslopeData : public COrvCmbValueRecord {
 public:
     explicit CCmbFontAslopeData(double dAngle = 0) : COrvCmbValueRecord(dAngle) {}
+    CCmbFontAslopeData(const CCmbFontAslopeData&) = default;
+    CCmbFontAslopeData& operator=(const CCmbFontAslopeData&) = default;
     CString GetName() const override;
 };
 

@@ -13,6 +13,8 @@ enum OrvFontShape : UINT {
 class ORVFC_API CCmbFontShapeData : public COrvCmbRecord {
 public:
     explicit CCmbFontShapeData(UINT nShape = ORVSHAPE_REGULAR) : m_nShape(nShape) {}
+    CCmbFontShapeData(const CCmbFontShapeData&) = default;
+    CCmbFontShapeData& operator=(const CCmbFontShapeData&) = default;
     CString GetName() const override; // "常规", "斜体", "下划线", "黑体"; an unknown code is regular
     void DrawItem(CDC* pDC, const CRect& rc, int nState) override; // the name in its shape
 

@@ -6,6 +6,8 @@
 class ORVFC_API CCmbFontSizeData : public COrvCmbValueRecord {
 public:
     explicit CCmbFontSizeData(double dSize = 0) : COrvCmbValueRecord(dSize) {}
+    CCmbFontSizeData(const CCmbFontSizeData&) = default;
+    CCmbFontSizeData& operator=(const CCmbFontSizeData&) = default;
     CString GetName() const override;
 };
 

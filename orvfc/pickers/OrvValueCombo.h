@@ -10,6 +10,8 @@ public:
 
 protected:
     explicit COrvCmbValueRecord(double dValue) : m_dValue(dValue) {}
+    COrvCmbValueRecord(const COrvCmbValueRecord&) = default;
+    COrvCmbValueRecord& operator=(const COrvCmbValueRecord&) = default;
     double m_dValue;
 };
 

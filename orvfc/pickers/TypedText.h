@@ -6,6 +6,10 @@
 // What a user has typed in quick succession to find a row by its name.
 class ORVFC_API COrvTypedText {
 public:
+    COrvTypedText() = default;
+    COrvTypedText(const COrvTypedText&) = default;
+    COrvTypedText& operator=(const COrvTypedText&) = default;
+
     // Takes the character of a WM_CHAR that the window got; a pause of more than a second before it begins
     // anew. FALSE: it is no character to search with (a control key, a blank at the beginning), and the
     // search ends.
