@@ -194,24 +194,31 @@ TEST(DrawText, OtherWaysToMeasure) {
     EXPECT_EQ(200 + pitch, block.LGetFPRect().bottom);
 }
 
+// Whatever code page the font takes the text in.
 TEST(DrawText, PrefixesAreThoseOfSingleCalls) {
-    for (const int escapement : {0, 300, 900, 2000})
-        for (const int extra : {0, 3, -1}) {
-            COrvFont font;
-            font.SetFontAngle(escapement / 10, TRUE);
-            CClientDC dc(NULL);
-            const orv::SavedDC saved(&dc);
-            dc.SelectObject(font.GetFont());
-            dc.SetTextCharacterExtra(extra);
-            const CString text("京沪铁路 Jinghu AVAWAT fi, 1318 km。\ttab");
-            orv::TextMeasurer measurer(dc);
-            const int* prefixes = measurer.prefixes({text, size_t(text.GetLength())});
-            const std::vector<int> kept(prefixes, prefixes + text.GetLength());
-            for (int i = 0; i < text.GetLength(); i += text[i] < 0 ? 2 : 1) {
-                const int count = i + (text[i] < 0 ? 2 : 1);
-                EXPECT_EQ(dc.GetTextExtent(text, count).cx, kept[count - 1]) << escapement << " " << count;
+    for (const BYTE charSet : {BYTE(GB2312_CHARSET), BYTE(ANSI_CHARSET), BYTE(RUSSIAN_CHARSET)})
+        for (const int escapement : {0, 300, 900, 2000})
+            for (const int extra : {0, 3, -1}) {
+                COrvFont font;
+                LOGFONT lf;
+                font.GetLogFontFont(lf, 1);
+                lf.lfCharSet = charSet;
+                font.SetLogFont(lf, FALSE);
+                font.SetFontAngle(escapement / 10, TRUE);
+                CClientDC dc(NULL);
+                const orv::SavedDC saved(&dc);
+                dc.SelectObject(font.GetFont());
+                dc.SetTextCharacterExtra(extra);
+                const CString text("京沪铁路 Jinghu AVAWAT fi, 1318 km。\ttab");
+                orv::TextMeasurer measurer(dc);
+                const int* prefixes = measurer.prefixes({text, size_t(text.GetLength())});
+                const std::vector<int> kept(prefixes, prefixes + text.GetLength());
+                for (int i = 0; i < text.GetLength(); i += text[i] < 0 ? 2 : 1) {
+                    const int count = i + (text[i] < 0 ? 2 : 1);
+                    EXPECT_EQ(dc.GetTextExtent(text, count).cx, kept[count - 1])
+                        << int(charSet) << " " << escapement << " " << count;
+                }
             }
-        }
 }
 
 TEST(DrawText, SingleTexts) {
