@@ -23,7 +23,9 @@ public:
     virtual BOOL InitInstance() { return FALSE; }
     // Pumps until WM_QUIT, and answers ExitInstance.
     virtual int Run();
-    virtual int ExitInstance() { return static_cast<int>(m_msgCur.wParam); }
+    // The program's exit status: what AfxPostQuitMessage was told; 0 when the program did not end by it, as
+    // one that is a dialog shown in InitInstance.
+    virtual int ExitInstance() { return m_msgCur.message == WM_QUIT ? static_cast<int>(m_msgCur.wParam) : 0; }
     // FALSE after WM_QUIT.
     virtual BOOL PumpMessage();
     // TRUE: the message is done with. The base asks every window from the addressed one up, then the main

@@ -116,6 +116,17 @@ TEST(Dialog, TheEndOfTheProgramEndsEveryLoop) {
     EXPECT_EQ(6, int(quit.wParam));
 }
 
+TEST(Dialog, ItsLastMessageIsNoExitStatus) {
+    CIdleDlg dialog;
+    dialog.m_idle = [](CIdleDlg& d) { d.PostMessage(WM_COMMAND, IDCANCEL); };
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_EQ(0, AfxGetApp()->ExitInstance());
+    ::PostQuitMessage(6);
+    while (AfxPumpMessage()) {
+    }
+    EXPECT_EQ(6, AfxGetApp()->ExitInstance());
+}
+
 TEST(Dialog, TemporaryObjectsFromBeforeOutliveTheLoop) {
     Made<CHiddenWnd> parent;
     HWND statics[2];
