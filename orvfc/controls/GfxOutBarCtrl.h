@@ -183,6 +183,9 @@ public:
     int InsertItem(int folder, int index, const OUTBAR_INFO& info);
     bool RemoveItem(int item);
     int GetItemCount() const;
+    // Of any folder, open or not: what a host stores to set its entries up again. On failure info stays.
+    int GetItemCount(int folder) const;
+    bool GetItemInfo(int folder, int item, OUTBAR_INFO& info) const;
     bool IsValidItem(int item) const;
     CString GetItemText(int item) const;
     bool SetItemText(int item, const char* text);

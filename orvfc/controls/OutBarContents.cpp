@@ -260,6 +260,22 @@ int CGfxOutBarCtrl::GetItemCount() const {
     return row ? row->count() : 0;
 }
 
+int CGfxOutBarCtrl::GetItemCount(int folder) const {
+    const OutBarFolder* row = m_pFolders->folder(folder);
+    return row ? row->count() : 0;
+}
+
+bool CGfxOutBarCtrl::GetItemInfo(int folder, int item, OUTBAR_INFO& info) const {
+    const OutBarItem* row = m_pFolders->item(folder, item);
+    if (!row)
+        return false;
+    info.strText = row->text;
+    info.nImage = row->image;
+    info.dwData = row->data;
+    info.pChild = NULL;
+    return true;
+}
+
 bool CGfxOutBarCtrl::IsValidItem(int item) const {
     return ItemAt(item) != NULL;
 }

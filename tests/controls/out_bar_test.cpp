@@ -38,6 +38,20 @@ TEST(OutBarNew, StartsWithItsDefaults) {
     delete made;
 }
 
+TEST_F(OutBar, EntriesAreReadFromFoldersThatAreNotOpen) {
+    host.fill(3);
+    CString all;
+    for (int folder = 0; folder < bar.GetFolderCount(); ++folder)
+        for (int item = 0; item < bar.GetItemCount(folder); ++item) {
+            OUTBAR_INFO info;
+            EXPECT_TRUE(bar.GetItemInfo(folder, item, info));
+            all.AppendFormat("%d: %s %d %d, ", folder, info.strText, info.nImage,
+                             static_cast<int>(info.dwData));
+        }
+    EXPECT_STREQ("0: 0 0 100, 0: 1 1 101, 0: 2 0 102, 1: x 0 200, 1: y 1 201, ", all);
+    EXPECT_EQ(0, bar.GetSelFolder());
+}
+
 TEST_F(OutBar, IndexesThatDoNotExist) {
     host.fill(3);
     bar.AddFolder("空");
@@ -70,6 +84,11 @@ TEST_F(OutBar, IndexesThatDoNotExist) {
         EXPECT_EQ(-1, bar.InsertItem(index, 0, "?"));
         EXPECT_FALSE(bar.IsValidItem(index) || bar.RemoveItem(index) || bar.SetItemText(index, "?") ||
                      bar.SetItemData(index, 1) || bar.SetItemImage(index, 1));
+        OUTBAR_INFO info;
+        info.strText = "stays";
+        EXPECT_FALSE(bar.GetItemInfo(index, 0, info) || bar.GetItemInfo(0, index, info));
+        EXPECT_STREQ("stays", info.strText);
+        EXPECT_EQ(0, bar.GetItemCount(index));
         EXPECT_STREQ("", bar.GetItemText(index));
         EXPECT_EQ(0u, bar.GetItemData(index));
         EXPECT_EQ(-1, bar.GetItemImage(index));
