@@ -21,9 +21,9 @@ struct ORVFC_API ORVDateUnitSingleStruct {
 // (from Sunday), 5 day. Styles: year 0 to 8, month 15 to 27, quarter 35 to 46, ten days 55 to 61, week 70 to
 // 87, day 95 to 112. Texts are code page 936.
 //
-// Dates are those of COleDateTime, as a double, from 1 January 100 to 31 December 9999; less than half a
-// second from midnight is midnight. DBL_MAX marks that there is no date. What is no date (also infinities and
-// not-a-number) gives the failure result told below; an assertion only where one is told.
+// Dates are those of COleDateTime (<afxdisp.h>), as a double, from 1 January 100 to 31 December 9999; less
+// than half a second from midnight is midnight. DBL_MAX marks that there is no date. What is no date (also
+// infinities and not-a-number) gives the failure result told below; an assertion only where one is told.
 class ORVFC_API CORVDateFormat {
 public:
     CORVDateFormat();

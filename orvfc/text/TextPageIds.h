@@ -1,7 +1,7 @@
 #pragma once
 
-// The text property page's dialog and its controls. Hosts that lay out a template of their own keep the
-// numbers.
+// The text property page's dialog and its controls. A template of this number among the host's own resources
+// is found before the library's: it keeps the numbers of the controls, and may leave some out.
 
 #define IDD_ORV_TEXT_PAGE 22008
 
