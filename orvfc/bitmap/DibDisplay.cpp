@@ -189,19 +189,23 @@ bool drawTurned(HDC dc, HPALETTE palette, const orv::PlainRows& plain, CPoint or
     }
 }
 
-// Whether a display is to show a picture of many more pixels than there is place for. Some systems turn all
-// of it into the display's own pixels before they choose the few: seconds and a gigabyte for a large sheet.
+// Whether a display is left what it shows of a picture and no more. Pictures of many more pixels than there
+// is place for some systems turn all into the display's own pixels before they choose the few: seconds and a
+// gigabyte for a large sheet. In places of sides near the ends of their numbers they divide by zero.
 // Metafiles and printers get the whole picture.
-bool isFarLarger(HDC dc, const orv::DibLayout& layout, CPoint origin, CSize size) {
+bool isForDisplay(HDC dc, const orv::DibLayout& layout, CPoint origin, CSize size, bool smooth) {
     const DWORD kind = ::GetObjectType(dc);
     if ((kind != OBJ_DC && kind != OBJ_MEMDC) || ::GetDeviceCaps(dc, TECHNOLOGY) != DT_RASDISPLAY)
         return false;
     POINT corners[2] = {origin, moved(origin, size)};
     ::LPtoDP(dc, corners, 2);
-    const double place =
-        std::fabs((double(corners[1].x) - corners[0].x) * (double(corners[1].y) - corners[0].y));
-    constexpr double farLarger = 4;
-    return place > 0 && double(layout.width) * layout.height > farLarger * place;
+    const double width = std::fabs(double(corners[1].x) - corners[0].x);
+    const double height = std::fabs(double(corners[1].y) - corners[0].y);
+    constexpr double longest = 1 << 30, farLarger = 4;
+    if (width > longest || height > longest)
+        return true;
+    const double place = width * height;
+    return !smooth && place > 0 && double(layout.width) * layout.height > farLarger * place;
 }
 
 } // namespace
@@ -233,7 +237,7 @@ BOOL COrvDib::Draw(CDC* pDC, CPoint origin, CSize size) {
     if (dc == NULL || !plain.isGood() || size.cx == 0 || size.cy == 0)
         return FALSE;
     const bool smooth = ::GetStretchBltMode(dc) == HALFTONE;
-    if (!smooth && isFarLarger(dc, plain.layout, origin, size))
+    if (isForDisplay(dc, plain.layout, origin, size, smooth))
         return drawTurned(dc, m_hPal, plain, origin, size, 0);
     const SavedDc saved(dc);
     selectPalette(dc, m_hPal);

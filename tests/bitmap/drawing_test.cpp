@@ -122,6 +122,13 @@ TEST(BitmapDrawing, OddPicturesAndPlaces) {
     EXPECT_NE(kWhite, paper.at(19, 19));
     EXPECT_FALSE(few.Draw(&paper.dc, CPoint(INT_MAX, INT_MIN), CSize(INT_MAX, INT_MAX), 0.1));
     ASSERT_TRUE(few.Draw(&paper.dc, CPoint(500, 500), CSize(20, 20), 0.1));
+    paper.clear();
+    for (const CSize size : {CSize(INT_MIN, INT_MAX), CSize(-9, INT_MIN)}) // mirrored
+        ASSERT_TRUE(few.Draw(&paper.dc, CPoint(10, 10), size));
+    for (const CPoint point : {CPoint(5, 15), CPoint(5, 5)})
+        EXPECT_NE(kWhite, paper.at(point.x, point.y));
+    EXPECT_EQ(kWhite, paper.at(15, 15));
+    EXPECT_EQ(kWhite, paper.at(15, 5));
     EXPECT_FALSE(few.Draw(&paper.dc, CPoint(0, 0), CSize(0, 5)));
     EXPECT_FALSE(few.Draw(&paper.dc, CPoint(0, 0), CSize(0, 5), 0.1));
     EXPECT_FALSE(few.Draw(&paper.dc, CPoint(0, 0), CSize(5, 5), NAN));
