@@ -17,12 +17,11 @@ using orv::test::toHex;
 TEST(Archive, StoredForms) {
     Dot dot(5), second(6);
     second.m_pLink = &second;
-    struct Row {
+    const struct {
         const char* what;
         std::function<void(CArchive&)> store;
         const char* hex;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"bytes and words",
          [](CArchive& ar) { ar << (BYTE)1 << (WORD)0x203 << (DWORD)0x4050607 << (LONG)-2; },
          "01 03 02 07 06 05 04 FE FF FF FF"},
@@ -67,7 +66,7 @@ TEST(Archive, StoredForms) {
          },
          "FF FF 02 00 05 00 47 72 6F 77 6E 01 80"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         EXPECT_EQ(row.hex, toHex(stored(row.store)));
         EXPECT_EQ(row.hex, toHex(stored<CopiedMemFile>(row.store, 128)));

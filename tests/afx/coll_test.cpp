@@ -33,12 +33,11 @@ std::string shown(const CStringList& texts) {
 } // namespace
 
 TEST(Arrays, Edits) {
-    struct Row {
+    const struct {
         const char* what;
         std::function<void(CStringArray&)> edit;
         const char* expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"grow with a gap", [](CStringArray& a) { a.SetAtGrow(4, "e"); }, "a.b.c..e."},
         {"insert", [](CStringArray& a) { a.InsertAt(1, "x", 2); }, "a.x.x.b.c."},
         {"insert past the end", [](CStringArray& a) { a.InsertAt(4, "x"); }, "a.b.c..x."},
@@ -61,7 +60,7 @@ TEST(Arrays, Edits) {
         {"append itself", [](CStringArray& a) { a.Append(a); }, "a.b.c.a.b.c."},
         {"remove all", [](CStringArray& a) { a.RemoveAll(); }, ""},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         CStringArray texts;
         for (const char* text : {"a", "b", "c"})
             texts.Add(text);
@@ -101,12 +100,11 @@ TEST(Arrays, NewValuesAreZero) {
 }
 
 TEST(Lists, Edits) {
-    struct Row {
+    const struct {
         const char* what;
         std::function<void(CStringList&)> edit;
         const char* expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"add head", [](CStringList& l) { l.AddHead("x"); }, "x.a.b.c."},
         {"insert after the tail", [](CStringList& l) { l.InsertAfter(l.GetTailPosition(), "x"); },
          "a.b.c.x."},
@@ -134,7 +132,7 @@ TEST(Lists, Edits) {
          },
          "a.b.c.x."},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         CStringList texts;
         for (const char* text : {"a", "b", "c"})
             texts.AddTail(text);

@@ -27,11 +27,10 @@ enum Colour { green = 7 };
 
 TEST(Format, WritesWhatVisualCppWrites) {
     const CString name = "誠";
-    struct Row {
+    const struct {
         std::string written;
         const char* expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {formatted("plain 100%%"), "plain 100%"},
         {formatted("%d|%i|%u", -5, 6, 4294967295u), "-5|6|4294967295"},
         {formatted("%5d|%-5d|%05d|%+d", 42, 42, 42, 42), "   42|42   |00042|+42"},
@@ -58,7 +57,7 @@ TEST(Format, WritesWhatVisualCppWrites) {
         {formatted("%S %ls", L"誠", L"b"), "誠 b"},
 #endif
     };
-    for (const Row& row : rows)
+    for (const auto& row : rows)
         EXPECT_EQ(std::string(row.expected), row.written);
     EXPECT_EQ(std::string("-3 誠 2.50 -5000000000"),
               bytesOf(formattedV("%ld %s %.2f %I64d", (LONG)-3, name.GetString(), 2.5, -5000000000LL)));

@@ -15,12 +15,11 @@ std::string shown(const CRect& r) {
 } // namespace
 
 TEST(Rect, OperationsOnOneRectangle) {
-    struct Row {
+    const struct {
         const char* what;
         std::function<void(CRect&)> change;
         const char* expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"inflate", [](CRect& r) { r.InflateRect(1, 2); }, "9,18,31,42"},
         {"inflate four sides", [](CRect& r) { r.InflateRect(1, 2, 3, 4); }, "9,18,33,44"},
         {"deflate by a size", [](CRect& r) { r.DeflateRect(CSize(1, 2)); }, "11,22,29,38"},
@@ -46,7 +45,7 @@ TEST(Rect, OperationsOnOneRectangle) {
         {"wraps like the system", [](CRect& r) { r.OffsetRect(INT_MAX, 0); },
          "-2147483639,20,-2147483619,40"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         CRect r(10, 20, 30, 40);
         row.change(r);
         EXPECT_EQ(row.expected, shown(r)) << row.what;

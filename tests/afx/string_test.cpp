@@ -15,13 +15,12 @@ TEST(String, LiteralsAreCodePage936) {
 }
 
 TEST(String, EditsGiveTheTextsTheyShould) {
-    struct Row {
+    const struct {
         const char* what;
         CString text;
         std::function<void(CString&)> edit;
         const char* expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"upper leaves trail bytes", "ab" XIA "c|" JUE, [](CString& s) { s.MakeUpper(); }, "AB" XIA "C|" JUE},
         {"lower leaves trail bytes", "AB" XIA "C", [](CString& s) { s.MakeLower(); }, "ab" XIA "c"},
         {"reverse keeps characters", "a" CHENG "b" JUE, [](CString& s) { s.MakeReverse(); },
@@ -77,7 +76,7 @@ TEST(String, EditsGiveTheTextsTheyShould) {
         {"repeated", "", [](CString& s) { s = CString('x', 3); }, "xxx"},
         {"from no text", "a", [](CString& s) { s = (LPCSTR)NULL; }, ""},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         CString text = row.text;
         const CString sharer = text; // an edit must not reach it
@@ -133,10 +132,9 @@ TEST(String, SearchesFindWholeCharactersOnly) {
 }
 
 TEST(String, Tokenize) {
-    struct Row {
+    const struct {
         const char *text, *delimiters, *joined;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"a,b;c", ",;", "a.b.c."},
         {",,a,,b,,", ",", "a.b."},
         {"", ",", ""},
@@ -145,7 +143,7 @@ TEST(String, Tokenize) {
         {"a" JUE "b", JUE, "a.b."},
         {"abc", "", "abc."},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         CString joined;
         int iStart = 0;
         for (CString token = CString(row.text).Tokenize(row.delimiters, iStart); iStart != -1;

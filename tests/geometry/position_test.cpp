@@ -52,16 +52,14 @@ TEST(Position, TolerancesAreStrict) {
     EXPECT_FALSE(p.IsOnLine(5, 0, 9, 0, 3.001)); // the segment, not its line
 }
 
-struct InBox {
-    double x, y;
-    DOURECT box;
-    double tol;
-    bool inside, onBorder;
-};
-
 TEST(Position, InAndOnABox) {
     const DOURECT box{0, 0, 10, 20};
-    const InBox rows[] = {
+    const struct {
+        double x, y;
+        DOURECT box;
+        double tol;
+        bool inside, onBorder;
+    } rows[] = {
         {5, 5, box, 0, true, false},
         {0, 5, box, 0, false, false}, // the border is outside and a tolerance of 0 meets nothing
         {10, 5, box, 0, false, false},

@@ -25,13 +25,11 @@ TEST(Rect, PointsOnIt) {
     EXPECT_EQ(Xy(turned.CenterPoint()), Xy(20, 35));
 }
 
-struct Emptiness {
-    DOURECT r;
-    bool empty, null;
-};
-
 TEST(Rect, EmptyAndNull) {
-    const Emptiness rows[] = {
+    const struct {
+        DOURECT r;
+        bool empty, null;
+    } rows[] = {
         {{0, 0, 0, 0}, true, true},
         {{5, 5, 5, 5}, true, false},
         {{0, 0, 0, 10}, false, false}, // a line is not empty
@@ -49,13 +47,11 @@ TEST(Rect, EmptyAndNull) {
     }
 }
 
-struct Normal {
-    DOURECT r;
-    Ltrb down, up;
-};
-
 TEST(Rect, Normalising) {
-    const Normal rows[] = {
+    const struct {
+        DOURECT r;
+        Ltrb down, up;
+    } rows[] = {
         {{0, 0, 10, 10}, {0, 0, 10, 10}, {0, 10, 10, 0}},
         {{10, 9, 1, 2}, {1, 2, 10, 9}, {1, 9, 10, 2}},
         {{1, 5, 1, 5}, {1, 5, 1, 5}, {1, 5, 1, 5}},

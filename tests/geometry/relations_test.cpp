@@ -41,16 +41,14 @@ TEST(Relations, Combining) {
     EXPECT_EQ(Ltrb(self), Ltrb(5, 6, 10, 10));
 }
 
-struct Boxes {
-    DOURECT a, b;
-    double tol;
-    int relation;
-    bool allIn, partIn;
-};
-
 TEST(Relations, TwoBoxes) {
     const DOURECT a{0, 0, 10, 10};
-    const Boxes rows[] = {
+    const struct {
+        DOURECT a, b;
+        double tol;
+        int relation;
+        bool allIn, partIn;
+    } rows[] = {
         {a, {20, 20, 30, 30}, 0.1, -1, false, false},
         {{2, 2, 8, 8}, a, 0.1, 1, true, true},
         {a, {2, 2, 8, 8}, 0.1, 2, false, false},
@@ -75,16 +73,14 @@ TEST(Relations, TwoBoxes) {
     }
 }
 
-struct Line {
-    double x1, y1, x2, y2;
-    int crossed; // IntersectLine
-    double x, y;
-    int related; // IsLineRelationBox with tolerance 0
-};
-
 TEST(Relations, SegmentAndRectangle) {
     const CDouRect r(0, 0, 10, 20);
-    const Line rows[] = {
+    const struct {
+        double x1, y1, x2, y2;
+        int crossed; // IntersectLine
+        double x, y;
+        int related; // IsLineRelationBox with tolerance 0
+    } rows[] = {
         {5, -5, 5, 5, 1, 5, 0, 1},                                 // the top edge
         {5, 5, 15, 5, 1, 10, 5, 1},                                // the right edge
         {-5, 5, 5, 5, 0, 0, 0, 1},                                 // the left edge is not looked at

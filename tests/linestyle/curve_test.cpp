@@ -17,14 +17,12 @@ constexpr BYTE kMove = PT_MOVETO;
 constexpr BYTE kLine = PT_LINETO;
 constexpr BYTE kClose = BYTE(PT_LINETO) | BYTE(PT_CLOSEFIGURE);
 
-struct PathRow {
+const struct {
     const char* name;
     std::vector<POINT> points;
     std::vector<BYTE> types;
     Seen seen; // dashes of 18 with gaps of 5
-};
-
-const PathRow pathRows[] = {
+} pathRows[] = {
     {"one line", {{5, 5}, {15, 5}}, {kMove, kLine}, {"5,5 15,5 w1 000000"}},
     {"closed at the last point",
      {{10, 10}, {16, 10}, {16, 14}},
@@ -47,7 +45,7 @@ const PathRow pathRows[] = {
 };
 
 TEST(Curve, WalksPaths) {
-    for (const PathRow& row : pathRows) {
+    for (const auto& row : pathRows) {
         SCOPED_TRACE(row.name);
         Sheet sheet;
         COrvDrawDashDash dash(sheet.dc());

@@ -49,15 +49,13 @@ std::string rowOf(const Paper& paper, int y) {
     return text;
 }
 
-struct DrawRow {
+const struct {
     const char* name;
     int type, width;
     COLORREF color;
     int main, single; // results of the two managers
     const char* seen; // by the main manager, of a line from (0, 50) to (30, 50) and up to (30, 30)
-};
-
-const DrawRow drawRows[] = {
+} drawRows[] = {
     {"dash", 1, 3, 0x0000FF, 1, 1,
      "0,50 18,50 w3 0000FF; 23,50 30,50 w3 0000FF; 30,50 30,39 w3 0000FF; 30,34 30,30 w3 0000FF; "},
     {"dash-dot", 3, 1, 0x00FF00, 1, 1,
@@ -78,7 +76,7 @@ std::string inOneLine(const Seen& strokes) {
 }
 
 TEST(Draw, ByTypeWidthAndColour) {
-    for (const DrawRow& row : drawRows) {
+    for (const auto& row : drawRows) {
         SCOPED_TRACE(row.name);
         Record main, single;
         for (CDC* dc : {&main.dc, &single.dc})

@@ -1,10 +1,30 @@
 #include "stroke_recorder.h"
 
+#include "sheet.h"
+#include "support/stroke_text.h"
+
 namespace orv::test {
 
 std::vector<RecordedStroke> recordedStrokes;
 bool recordStrokes = true;
 size_t strokeCount = 0;
+
+Sheet::Sheet() : dc_(reinterpret_cast<HDC>(1)) {
+    recordedStrokes.clear();
+    strokeCount = 0;
+}
+
+Sheet::~Sheet() = default;
+
+std::vector<std::string> Sheet::take() {
+    std::vector<std::string> seen;
+    for (const RecordedStroke& stroke : recordedStrokes)
+        if ((stroke.pen.nStyle & 0xF) != PS_NULL)
+            seen.push_back(strokeText(
+                {stroke.points, stroke.pen.nWidth, stroke.pen.crColor, stroke.filled, stroke.fill}));
+    recordedStrokes.clear();
+    return seen;
+}
 
 } // namespace orv::test
 

@@ -36,15 +36,13 @@ struct Ruler {
     }
 };
 
-struct WalkRow {
+const struct {
     const char* name;
     double piece, gap;
     const char* to;  // the ends of the segments from (0, 0) on
     const char* log; // the pieces; behind them result of the last segment, index, current point
     int drawType = 1, refused = -1;
-};
-
-const WalkRow walkRows[] = {
+} walkRows[] = {
     {"two pieces and a part", 18, 5, "30,0", "0:0,0-18,0 1:18,0-23,0 2:23,0-30,0 = 1 2 30,0"},
     {"short of a piece", 18, 5, "10,0", "0:0,0-10,0 = 1 0 10,0"},
     {"a piece bends at a vertex", 18, 5, "10,0 10,20",
@@ -65,7 +63,7 @@ const WalkRow walkRows[] = {
 };
 
 TEST(Walk, CutsSegmentsIntoPieces) {
-    for (const WalkRow& row : walkRows) {
+    for (const auto& row : walkRows) {
         Ruler ruler = {{row.piece, row.gap}, row.drawType, row.refused};
         double x = 0, y = 0, toX, toY;
         int index = 0, result = -1, used;

@@ -22,13 +22,11 @@ void expectCrossings(const Crossings& found, const Points& expected, Point origi
 // Every figure is also tried far from the origin, where a unit is worth few digits.
 const Point places[] = {{0, 0}, {1e7, -3e7}};
 
-struct Pair {
-    Point a, b, c, d;
-    Points crossing;
-};
-
 TEST(Crossings, TwoSegments) {
-    const Pair rows[] = {
+    const struct {
+        Point a, b, c, d;
+        Points crossing;
+    } rows[] = {
         {{0, 0}, {10, 10}, {0, 10}, {10, 0}, {{5, 5}}},
         {{0, 0}, {10, 0}, {3, -1}, {3, 1}, {{3, 0}}},
         {{0, 0}, {10, 0}, {3, 0}, {3, 5}, {{3, 0}}}, // a T
@@ -89,14 +87,12 @@ TEST(Crossings, NothingCrossesAtNoNumber) {
         }
 }
 
-struct BoxRow {
-    Point a, b;
-    Point leftTop, rightBottom;
-    Points crossings;
-};
-
 TEST(Crossings, SegmentAndBox) {
-    const BoxRow rows[] = {
+    const struct {
+        Point a, b;
+        Point leftTop, rightBottom;
+        Points crossings;
+    } rows[] = {
         {{-5, 5}, {15, 5}, {0, 0}, {10, 10}, {{0, 5}, {10, 5}}}, // in the order of the segment
         {{15, 5}, {-5, 5}, {0, 0}, {10, 10}, {{10, 5}, {0, 5}}},
         {{5, 15}, {5, -5}, {0, 0}, {10, 10}, {{5, 10}, {5, 0}}},
@@ -153,15 +149,13 @@ TEST(Crossings, TouchingABoxSurvivesRounding) {
         EXPECT_EQ(count(p, {0.2, 0.2}), 1) << "starts a rounding error inside, at " << p.x << "," << p.y;
 }
 
-struct ArcRow {
-    Point a, b, centre;
-    double radius, start, end;
-    Points crossings;
-};
-
 TEST(Crossings, SegmentAndArc) {
     const double h = std::sqrt(0.5) * 5;
-    const ArcRow rows[] = {
+    const struct {
+        Point a, b, centre;
+        double radius, start, end;
+        Points crossings;
+    } rows[] = {
         {{-9, 0}, {9, 0}, {0, 0}, 5, 0, 2 * pi, {{-5, 0}, {5, 0}}}, // the whole circle
         {{9, 0}, {-9, 0}, {0, 0}, 5, 1, 1, {{5, 0}, {-5, 0}}},
         {{-9, -3}, {9, -3}, {0, 0}, 5, 0, pi, {{-4, -3}, {4, -3}}}, // the upper half is above on the screen

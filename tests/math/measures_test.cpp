@@ -6,13 +6,11 @@ extern "C" double distanceFromC();
 
 namespace {
 
-struct Distances {
-    double px, py, x1, y1, x2, y2, toSegment, toLine;
-};
-
 TEST(Measures, DistancesFromAPoint) {
     const double far = 4e8; // far from the origin the answers are those near it
-    const Distances rows[] = {
+    const struct {
+        double px, py, x1, y1, x2, y2, toSegment, toLine;
+    } rows[] = {
         {2, 3, 0, 0, 4, 0, 3, 3},                                    // above the middle
         {-3, 4, 0, 0, 4, 0, 5, 4},                                   // before the start
         {7, -4, 0, 0, 4, 0, 5, 4},                                   // past the end
@@ -65,12 +63,10 @@ TEST(Measures, MiddleNeverOverflows) {
     EXPECT_EQ(y, 3);
 }
 
-struct CrossStroke {
-    double x1, y1, x2, y2, d1, d2, xa, ya, xb, yb;
-};
-
 TEST(Measures, CrossStrokesStandOnTheMiddle) {
-    const CrossStroke rows[] = {
+    const struct {
+        double x1, y1, x2, y2, d1, d2, xa, ya, xb, yb;
+    } rows[] = {
         {0, 0, 10, 0, 3, 4, 5, -3, 5, 4},                // rightwards: the first one is above on the screen
         {10, 0, 0, 0, 3, 4, 5, 3, 5, -4},                // leftwards: below
         {0, 0, 0, 10, 3, 4, 3, 5, -4, 5},                // downwards: to the right
@@ -119,16 +115,14 @@ TEST(Measures, Between) {
     EXPECT_FALSE(BetweenDistanceInt(INT_MIN, INT_MAX, INT_MAX, 1));
 }
 
-struct Nearest {
-    double value;
-    int power;
-    double result;
-};
-
 TEST(Measures, NearestValue) {
     const double whole = 4503599627370497.0;         // 2^52 + 1: no fraction is left there
     const double underHalf = std::nextafter(0.5, 0); // twice 1e308, below, is beyond the range
-    const Nearest rows[] = {
+    const struct {
+        double value;
+        int power;
+        double result;
+    } rows[] = {
         {1.23456, -4, 1.2346}, {-1.2346, -3, -1.235},
         {1.23456, 0, 1},       {0.1 + 0.2, -5, 0.3},
         {14, 1, 10},           {15, 1, 20},

@@ -4,12 +4,10 @@
 
 namespace {
 
-struct Direction {
-    double x1, y1, x2, y2, angle;
-};
-
 TEST(Turns, DirectionOnTheScreen) {
-    const Direction rows[] = {
+    const struct {
+        double x1, y1, x2, y2, angle;
+    } rows[] = {
         {0, 0, 1, 0, 0},
         {0, 0, 1, -1, pi / 4},
         {0, 0, 0, -1, pi / 2},
@@ -30,14 +28,12 @@ TEST(Turns, DirectionOnTheScreen) {
     EXPECT_TRUE(std::isnan(GetAngleToXAxis(0, 0, NAN, 1)));
 }
 
-struct OnArc {
-    double angle, start, end, tolerance;
-    bool inside;
-};
-
 TEST(Turns, ArcBounds) {
     const double tol = 1e-6;
-    const OnArc rows[] = {
+    const struct {
+        double angle, start, end, tolerance;
+        bool inside;
+    } rows[] = {
         {1, 0, 2, 0, true},
         {0, 0, 2, 0, true}, // the bounds belong to the arc
         {2, 0, 2, 0, true},
@@ -89,14 +85,12 @@ TEST(Turns, RotatesCounterClockwiseOnTheScreen) {
     }
 }
 
-struct IntTurn {
-    int x, y, cx, cy;
-    double angle;
-    int rx, ry;
-};
-
 TEST(Turns, RotatesWholeNumbersToTheNearest) {
-    const IntTurn rows[] = {
+    const struct {
+        int x, y, cx, cy;
+        double angle;
+        int rx, ry;
+    } rows[] = {
         {12, 20, 10, 20, pi / 2, 10, 18},
         {12, 20, 10, 20, pi, 8, 20},
         {10, 0, 0, 0, pi / 4, 7, -7}, // 7.07
@@ -115,12 +109,10 @@ TEST(Turns, RotatesWholeNumbersToTheNearest) {
     }
 }
 
-struct Mirrored {
-    double x, y, ax, ay, bx, by, rx, ry;
-};
-
 TEST(Turns, Mirrors) {
-    const Mirrored rows[] = {
+    const struct {
+        double x, y, ax, ay, bx, by, rx, ry;
+    } rows[] = {
         {3, 5, 0, 2, 1, 2, 3, -1},                                        // a level axis
         {3, 5, 2, 0, 2, 9, 1, 5},                                         // an upright one
         {3, 5, 0, 0, 1, 1, 5, 3},                                         // a slanting one

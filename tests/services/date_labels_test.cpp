@@ -30,15 +30,13 @@ const double kDays[] = {day(1000101),  day(9870820),  day(19991211), day(2000022
 
 // A style's labels of these days, what it shows in a picker, and what its column is measured with. Nothing in
 // these texts is a slip of the table: plans have been drawn with them.
-struct StyleRow {
+// Worked out with another program's calendar, running numbers by looking at every day between.
+// clang-format off
+const struct {
     int unit, style;
     const char* labels[std::size(kDays)];
     const char *sample, *width;
-};
-
-// Worked out with another program's calendar, running numbers by looking at every day between.
-// clang-format off
-const StyleRow styleRows[] = {
+} styleRows[] = {
     {0, 0, {"零一零零年", "零九八七年", "一九九九年", "二零零零年", "二零零四年", "二零一一年", "九九九九年"}, "二零零零年,二零零一年,...", "二零零零年"},
     {0, 1, {"0100年", "0987年", "1999年", "2000年", "2004年", "2011年", "9999年"}, "2000年,2001年,...", "2000年"},
     {0, 2, {"0100", "0987", "1999", "2000", "2004", "2011", "9999"}, "2000,2001,...", "2000"},
@@ -126,7 +124,7 @@ TEST(DateLabels, EveryStyle) {
         INT_PTR listed = ids.GetSize();
         const INT_PTR all = listed + Format::GetStyleStringArray(unit, texts, ids);
         ASSERT_EQ(all, ids.GetSize());
-        for (const StyleRow& row : styleRows) {
+        for (const auto& row : styleRows) {
             if (row.unit != unit)
                 continue;
             SCOPED_TRACE(row.style);

@@ -59,13 +59,11 @@ double answer(int digits) {
     return digits == kAfter ? DBL_MAX : digits == kBefore ? -DBL_MAX : day(digits);
 }
 
-struct StepRow {
+const struct {
     int unit;
     double from;
     int begin, next, next3, prev, prev3;
-};
-
-const StepRow stepRows[] = {
+} stepRows[] = {
     // A date that begins its unit, and dates inside one.
     {0, day(20000101), 20000101, 20010101, 20030101, 19990101, 19970101},
     {0, day(20001231), 20000101, 20010101, 20030101, 20000101, 19980101},
@@ -95,7 +93,7 @@ const StepRow stepRows[] = {
 };
 
 TEST(DateSteps, Table) {
-    for (const StepRow& row : stepRows) {
+    for (const auto& row : stepRows) {
         SCOPED_TRACE(testing::Message() << "unit " << row.unit << ", from " << row.from);
         EXPECT_EQ(answer(row.begin), Format::GetNextScale(row.unit, 0, row.from));
         EXPECT_EQ(answer(row.begin), Format::GetPrevScale(row.unit, 0, row.from));

@@ -15,12 +15,10 @@ namespace {
 
 const std::string kLong(300, 'x');
 
-struct SplitRow {
-    std::string path, drive, directory, name, extension;
-};
-
 // 誠 is D5 5C, 亅 is 81 7C: second bytes that look like a backslash and a bar.
-const SplitRow splitRows[] = {
+const struct {
+    std::string path, drive, directory, name, extension;
+} splitRows[] = {
     {"name.txt", "", "", "name", ".txt"},
     {"C:\\a\\b.txt", "C:", "\\a\\", "b", ".txt"},
     {"C:b", "C:", "", "b", ""},
@@ -48,7 +46,7 @@ const SplitRow splitRows[] = {
 };
 
 TEST(FileNames, Split) {
-    for (const SplitRow& row : splitRows) {
+    for (const auto& row : splitRows) {
         SCOPED_TRACE(testing::PrintToString(row.path));
         const CString path(row.path.c_str());
         EXPECT_EQ(row.drive + row.directory, std::string(GetFileNamePath(path)));

@@ -279,23 +279,21 @@ TEST(DrawText, TheOutlineBecomesAPath) {
     EXPECT_EQ(CPoint(3, 4), dc.GetCurrentPosition());
 }
 
-struct AngleRow {
-    double angle;
-    int degrees;
-};
-
 TEST(DrawText, TheFontTakesWholeDegrees) {
     const double nan = std::numeric_limits<double>::quiet_NaN(),
                  inf = std::numeric_limits<double>::infinity();
-    const AngleRow rows[] = {{30 * kDegree, 30},
-                             {3.1415926 / 2, 90},
-                             {-30 * kDegree, -30},
-                             {0.5, 28},
-                             {-0.5, -28},
-                             {7.0, 401},
-                             {nan, 0},
-                             {inf, 0}};
-    for (const AngleRow& row : rows) {
+    const struct {
+        double angle;
+        int degrees;
+    } rows[] = {{30 * kDegree, 30},
+                {3.1415926 / 2, 90},
+                {-30 * kDegree, -30},
+                {0.5, 28},
+                {-0.5, -28},
+                {7.0, 401},
+                {nan, 0},
+                {inf, 0}};
+    for (const auto& row : rows) {
         COrvDrawText text;
         const CFPRect rect(0, 0, 1, 1, row.angle);
         text.SetFontAngle(&rect);
