@@ -4,8 +4,6 @@
 
 using namespace orv::test;
 
-namespace {
-
 // A frame 20 wide and 10 high, seen in its own directions: the same answers at every angle.
 const struct Hit {
     double along, down, tol;
@@ -143,5 +141,3 @@ TEST(FourPointHits, OnlyTheValuesDecideOnEmpty) {
                               field == 3 ? limit : 0, field == 4 ? limit : 0)
                          .IsRectEmpty());
 }
-
-} // namespace

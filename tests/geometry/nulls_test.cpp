@@ -9,8 +9,6 @@
 
 // A null pointer is the caller's fault: asserted in debug builds, harmless when passed over.
 
-namespace {
-
 TEST(Nulls, ReadAsZerosOrDoNothing) {
     const DOURECT* none = NULL;
     const DOURECT some{1, 2, 3, 4};
@@ -39,5 +37,3 @@ TEST(Nulls, ReadAsZerosOrDoNothing) {
     EXPECT_EQ(events.assertions(), 14);
 #endif
 }
-
-} // namespace

@@ -8,8 +8,6 @@
 
 // What a host writes must compile and mean one thing, with whole numbers, doubles, points and literals.
 
-namespace {
-
 static_assert(sizeof(DOUPOINT) == 16 && sizeof(DOUSIZE) == 16 && sizeof(DOURECT) == 32);
 static_assert(std::is_trivial_v<DOUPOINT> && std::is_trivial_v<DOUSIZE> && std::is_trivial_v<DOURECT>);
 static_assert(std::has_virtual_destructor_v<CPosition>);
@@ -194,5 +192,3 @@ TEST(Overloads, MoveInAllForms) {
     r.OffsetRect(p);
     EXPECT_EQ(Ltrb(r), Ltrb(12, 24, 32, 44));
 }
-
-} // namespace

@@ -4,8 +4,6 @@
 
 #include "printing.h"
 
-namespace {
-
 constexpr double pi = 3.14159265358979323846;
 
 TEST(Rect, PointsOnIt) {
@@ -105,5 +103,3 @@ TEST(Rect, Sameness) {
         EXPECT_TRUE(r.IsSame(&off, 0.51)) << side;
     }
 }
-
-} // namespace

@@ -11,8 +11,6 @@
 using orv::test::Seen;
 using orv::test::Sheet;
 
-namespace {
-
 constexpr BYTE kMove = PT_MOVETO;
 constexpr BYTE kLine = PT_LINETO;
 constexpr BYTE kClose = BYTE(PT_LINETO) | BYTE(PT_CLOSEFIGURE);
@@ -94,5 +92,3 @@ TEST(PathData, CopiesAreDeep) {
     EXPECT_EQ(NULL, copy.m_pPoints);
     EXPECT_EQ(0, copy.m_nCount);
 }
-
-} // namespace

@@ -54,17 +54,6 @@ TEST(Pattern, LessThanAHundredthCountsAsDone) {
     EXPECT_EQ(5, dash.m_dRemain);
 }
 
-TEST(Pattern, NextPieceStartsWhereTheLastEnded) {
-    Sheet sheet;
-    COrvDrawDashDot dash(sheet.dc());
-    dash.DrawDash(1.9, -1.9, 4.9, 2, 0); // a new figure: truncated toward zero
-    dash.DrawDash(50, 50, 60, 60, 0);
-    EXPECT_EQ(0, dash.IsMoveToNew());
-    EXPECT_EQ(60, dash.m_ptLastA.x);
-    EXPECT_EQ(60, dash.m_ptLastB.y);
-    EXPECT_EQ((Seen{"1,-1 4,2 w1 000000", "4,2 60,60 w1 000000"}), sheet.take());
-}
-
 TEST(Pattern, NegativePieceNumbers) {
     Sheet sheet;
     COrvDrawDashDotDot dashDot(sheet.dc());

@@ -86,13 +86,11 @@ TEST(Measures, CrossStrokesStandOnTheMiddle) {
     GetPerHalveLineFromLineDist(0, 0, 1, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
 }
 
-struct Between {
-    double value, bound1, bound2, tolerance;
-    bool inside;
-};
-
 TEST(Measures, Between) {
-    const Between rows[] = {
+    const struct {
+        double value, bound1, bound2, tolerance;
+        bool inside;
+    } rows[] = {
         {5, 0, 10, 0, true},   {5, 10, 0, 0, true},  {0, 0, 10, 0, true},   {10, 0, 10, 0, true},
         {11, 0, 10, 1, true},  {-1, 10, 0, 1, true}, {-1, 0, 10, 0, false}, {12, 0, 10, 1, false},
         {1, 0, 10, -2, false}, {2, 0, 10, -2, true}, {5, 5, 5, 0, true},    {5, 5, 5, -1, false},

@@ -2,8 +2,6 @@
 
 #include <climits>
 
-namespace {
-
 TEST(Turns, DirectionOnTheScreen) {
     const struct {
         double x1, y1, x2, y2, angle;
@@ -135,5 +133,3 @@ TEST(Turns, Mirrors) {
         EXPECT_EQ(iy, std::lround(r.ry));
     }
 }
-
-} // namespace

@@ -11,8 +11,6 @@
 
 #include "support/scratch_folder.h"
 
-namespace {
-
 const std::string kLong(300, 'x');
 
 // 誠 is D5 5C, 亅 is 81 7C: second bytes that look like a backslash and a bar.
@@ -106,5 +104,3 @@ TEST(FileNames, LooksOnTheDisk) {
     EXPECT_TRUE(IsFileExist(file));
     EXPECT_FALSE(IsDirectoryExist(file));
 }
-
-} // namespace

@@ -6,8 +6,6 @@
 
 #include "orvfc/text/FaceName.h"
 
-namespace {
-
 TEST(FaceName, IsCutBetweenCharacters) {
     const std::string longName(30, 'x');
     const struct {
@@ -37,5 +35,3 @@ TEST(FaceName, AFieldWithoutItsZeroIsEnded) {
     orv::endFaceName(field);
     EXPECT_EQ(std::string(LF_FACESIZE - 1, 'a'), field);
 }
-
-} // namespace

@@ -11,8 +11,6 @@
 
 using namespace orv::test;
 
-namespace {
-
 TEST(DrawText, LinesStandAcrossTheAngle) {
     for (const int degrees : {0, 30, 90, 200, -45})
         for (const UINT align : {0u, 1u, 2u, 3u}) {
@@ -300,5 +298,3 @@ TEST(DrawText, TheFontTakesWholeDegrees) {
         EXPECT_EQ(row.degrees, text.LGetOrvFont()->GetFontAngle()) << row.angle;
     }
 }
-
-} // namespace

@@ -6,8 +6,6 @@
 
 using namespace orv::test;
 
-namespace {
-
 TEST_F(TextPage, WhatIsLeftAloneStaysAsItWas) {
     COrvDrawText text;
     fillWithFont(text);
@@ -236,5 +234,3 @@ TEST_F(TextPage, TakesATemplateThatLacksControls) {
     EXPECT_EQ("border 0 -> 1; ", changed(text, page));
     EXPECT_EQ(0, events.assertions());
 }
-
-} // namespace

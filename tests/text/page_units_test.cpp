@@ -7,8 +7,6 @@
 
 #include "orvfc/text/TextPageUnits.h"
 
-namespace {
-
 TEST(TextPageUnits, PixelsArePointsOfTheScreen) {
     EXPECT_EQ(3.0, orv::pointsFromPixels(4, 96));
     EXPECT_EQ(0.0, orv::pointsFromPixels(4, 0));
@@ -46,5 +44,3 @@ TEST(TextPageUnits, WholeDegreesStayWhole) {
     EXPECT_EQ(0, orv::degreesFromRadians(HUGE_VAL));
     EXPECT_EQ(0, orv::degreesFromRadians(std::nan("")));
 }
-
-} // namespace

@@ -10,8 +10,6 @@
 
 using namespace orv::test;
 
-namespace {
-
 // What a bit of the mask enables.
 const struct {
     int id;
@@ -128,5 +126,3 @@ TEST_F(TextPage, IsMadeByItsRunTimeClassAndLeavesNothingBehind) {
     EXPECT_FALSE(closed.InvalidText());
     EXPECT_EQ(1, events.assertions());
 }
-
-} // namespace
