@@ -17,8 +17,9 @@ public:
     BOOL GetFontInUse() const { return m_bInUse; }
     void SetFontInUse(BOOL bInUse) { m_bInUse = bInUse; }
 
-    // The name in its own face, where that has all its characters, else in the device context's font; a face
-    // in use has a mark before it. The font is made at the first drawing and kept until FreeFont.
+    // The name in its own face, where that has all its characters, upright and of a row's height, else in the
+    // device context's font; a face in use has a mark before it. The font is made at the first drawing and
+    // kept until FreeFont.
     void DrawItem(CDC* pDC, const CRect& rc, int nState) override;
     void FreeFont();
     BOOL HasFont() const { return m_pFont != NULL; }

@@ -6,7 +6,7 @@
 
 // How the names of a COrvFontComboBox are shown.
 enum OrvFontComboStyle {
-    ORVFONTS_OWN_FACE = 0,  // each in its own face
+    ORVFONTS_OWN_FACE = 0,  // each in its own face, as CFontObj
     ORVFONTS_INTERFACE = 1, // all in the combo's font
 };
 

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr LONG kHighestLine = 2; // of its characters' height; mathematical faces have lines of five and more
+
 bool hasAllCharacters(CDC* pDC, const CString& text) {
     std::vector<WORD> glyphs(static_cast<size_t>(text.GetLength()) + 1);
     const DWORD count =
@@ -49,8 +51,9 @@ LOGFONT fontOf(CDC* pDC) {
 bool showsItsName(CDC* pDC, const CString& name) {
     TEXTMETRIC metrics;
     CString face;
-    return pDC->GetTextMetrics(&metrics) && metrics.tmCharSet != SYMBOL_CHARSET && pDC->GetTextFace(face) &&
-           face.CompareNoCase(name) == 0 && hasAllCharacters(pDC, name);
+    return name.Left(1) != "@" && pDC->GetTextMetrics(&metrics) && metrics.tmCharSet != SYMBOL_CHARSET &&
+           metrics.tmHeight <= kHighestLine * (metrics.tmHeight - metrics.tmInternalLeading) &&
+           pDC->GetTextFace(face) && face.CompareNoCase(name) == 0 && hasAllCharacters(pDC, name);
 }
 
 } // namespace orv
