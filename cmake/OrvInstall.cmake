@@ -1,5 +1,5 @@
-# What a host gets: bin (DLLs, the toolchain's runtime DLLs, the gallery), lib (import libraries), include, and the
-# CMake package.
+# What a host gets: bin (DLLs, the toolchain's runtime DLLs, the gallery), lib (import libraries), include, the CMake
+# package, and share/doc (the guide, and the pages that headers name).
 
 include(CMakePackageConfigHelpers)
 
@@ -30,6 +30,10 @@ foreach(header IN LISTS headers)
   cmake_path(GET header PARENT_PATH folder)
   install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
 endforeach()
+
+install(FILES ${PROJECT_SOURCE_DIR}/docs/guide.md ${PROJECT_SOURCE_DIR}/docs/foundation.md
+              ${PROJECT_SOURCE_DIR}/docs/line-type-file.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+        DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ORVFCConfig.cmake.in
                               ${CMAKE_CURRENT_BINARY_DIR}/ORVFCConfig.cmake INSTALL_DESTINATION ${package_dir})
