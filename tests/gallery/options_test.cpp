@@ -56,22 +56,6 @@ TEST(Options, RefusesWithAReason) {
         }
 }
 
-TEST(Options, Tasks) {
-    const struct {
-        const char* commandLine;
-        Options::Task task;
-    } rows[] = {{"", Options::Task::help},
-                {"--help", Options::Task::help},
-                {"--draw a --out a.png --help", Options::Task::help},
-                {"--window", Options::Task::window}};
-    for (const auto& row : rows) {
-        Options options;
-        std::string message;
-        EXPECT_TRUE(parse(row.commandLine, options, message)) << row.commandLine << message;
-        EXPECT_EQ(options.task, row.task) << row.commandLine;
-    }
-}
-
 TEST(Options, StylesBelongToTheirLayer) {
     Options options;
     std::string message;

@@ -154,6 +154,7 @@ TEST_F(Program, StatusTellsWhatIsWrong) {
     } const rows[] = {
         {"", 0, "--draw FILE"},
         {"--help", 0, "Exit status"},
+        {"--draw in.wkt --out out.png --help", 0, "Exit status"},
         {"--draw in.wkt", 2, "needs --out"},
         {"--draw missing.wkt --out out.png", 1, "missing.wkt: "},
         {"--draw . --out out.png", 1, ".: "},

@@ -5,25 +5,16 @@
 #include <gtest/gtest.h>
 
 #include "support/debug_events.h"
+#include "support/message_boxes.h"
 
 #include <memory>
 
+using namespace orv::test;
+
 namespace {
 
-class RecordingApp : public CWinApp {
-public:
-    int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) override {
-        prompt = lpszPrompt;
-        type = nType;
-        help = nIDPrompt;
-        return IDYES;
-    }
-    CString prompt;
-    UINT type = 0, help = 0;
-} recordingApp;
-
 TEST(Module, TracesItsLoadAndItsUnload) {
-    orv::test::DebugEvents events;
+    DebugEvents events;
     HMODULE library = ::LoadLibraryA("ORVFC.dll");
     ASSERT_TRUE(library);
     EXPECT_EQ("ORVFC.DLL Initializing!\n", events.text());
@@ -77,15 +68,15 @@ TEST(Module, LoadStringCutsBetweenCharacters) {
 }
 
 TEST(Module, MessageBoxesGoThroughTheApplication) {
-    EXPECT_EQ(AfxGetApp(), &recordingApp);
+    EXPECT_EQ(AfxGetApp(), &messageKeepingApp);
     EXPECT_STREQ("module_test", AfxGetAppName());
+    messageKeepingApp.answer = IDYES;
     EXPECT_EQ(IDYES, AfxMessageBox("问题", MB_YESNO, 7));
-    EXPECT_STREQ("问题", recordingApp.prompt);
-    EXPECT_EQ(static_cast<UINT>(MB_YESNO), recordingApp.type);
-    EXPECT_EQ(7u, recordingApp.help);
+    EXPECT_EQ(UINT(MB_YESNO), messageKeepingApp.type);
+    EXPECT_EQ(7u, messageKeepingApp.help);
     AfxMessageBox(100u);
-    EXPECT_STREQ("线型目录", recordingApp.prompt);
-    EXPECT_EQ(100u, recordingApp.help);
+    EXPECT_EQ(Messages({"问题", "线型目录"}), takeMessages());
+    EXPECT_EQ(100u, messageKeepingApp.help);
 }
 
 TEST(Module, EveryDllCarriesItsVersion) {

@@ -14,11 +14,15 @@ using Messages = std::vector<std::string>;
 
 class MessageKeepingApp : public CWinApp {
 public:
-    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override {
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) override {
         kept.push_back(lpszPrompt);
-        return IDOK;
+        type = nType;
+        help = nIDPrompt;
+        return answer;
     }
     Messages kept;
+    UINT type = 0, help = 0; // of the last one
+    int answer = IDOK;
 };
 inline MessageKeepingApp messageKeepingApp;
 
