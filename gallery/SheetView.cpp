@@ -71,21 +71,20 @@ void SheetView::scroll(int bar, UINT code) {
     SCROLLINFO info = {};
     GetScrollInfo(bar, &info);
     const int page = static_cast<int>(info.nPage);
-    switch (code) {
-    case SB_LINEUP:
-        return scrollTo(bar, info.nPos - lineStep);
-    case SB_LINEDOWN:
-        return scrollTo(bar, info.nPos + lineStep);
-    case SB_PAGEUP:
-        return scrollTo(bar, info.nPos - page);
-    case SB_PAGEDOWN:
-        return scrollTo(bar, info.nPos + page);
-    case SB_TOP:
-        return scrollTo(bar, info.nMin);
-    case SB_BOTTOM:
-        return scrollTo(bar, info.nMax);
-    case SB_THUMBTRACK:
-        return scrollTo(bar, info.nTrackPos);
+    const struct {
+        UINT code;
+        int position;
+    } rows[] = {{SB_LINEUP, info.nPos - lineStep},
+                {SB_LINEDOWN, info.nPos + lineStep},
+                {SB_PAGEUP, info.nPos - page},
+                {SB_PAGEDOWN, info.nPos + page},
+                {SB_TOP, info.nMin},
+                {SB_BOTTOM, info.nMax},
+                {SB_THUMBTRACK, info.nTrackPos}};
+    for (const auto& row : rows) {
+        if (row.code == code) {
+            return scrollTo(bar, row.position);
+        }
     }
 }
 

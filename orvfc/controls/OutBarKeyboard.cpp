@@ -63,30 +63,18 @@ bool CGfxOutBarCtrl::Walk(UINT nChar) {
         return false;
     const Row now = CurrentRow();
     const int nAbove = m_nSelFolder + 1; // headers before the items
-    int nPlace = now.item >= 0 ? nAbove + now.item : now.folder < nAbove ? now.folder : now.folder + nItems;
-    switch (nChar) {
-    case VK_UP:
-        --nPlace;
-        break;
-    case VK_DOWN:
-        ++nPlace;
-        break;
-    case VK_PRIOR:
-        nPlace -= nPage;
-        break;
-    case VK_NEXT:
-        nPlace += nPage;
-        break;
-    case VK_HOME:
-        nPlace = 0;
-        break;
-    case VK_END:
-        nPlace = nRows - 1;
-        break;
-    default:
+    const int nFrom = now.item >= 0         ? nAbove + now.item
+                      : now.folder < nAbove ? now.folder
+                                            : now.folder + nItems;
+    const struct {
+        UINT key;
+        int to;
+    } steps[] = {{VK_UP, nFrom - 1},       {VK_DOWN, nFrom + 1}, {VK_PRIOR, nFrom - nPage},
+                 {VK_NEXT, nFrom + nPage}, {VK_HOME, 0},         {VK_END, nRows - 1}};
+    const auto step = std::ranges::find(steps, nChar, [](const auto& row) { return row.key; });
+    if (step == std::end(steps))
         return false;
-    }
-    nPlace = std::clamp(nPlace, 0, nRows - 1);
+    const int nPlace = std::clamp(step->to, 0, nRows - 1);
     if (nPlace < nAbove)
         SetCurrentRow({nPlace, -1});
     else if (nPlace < nAbove + nItems)
