@@ -43,6 +43,11 @@ std::string toHex(const BYTES& bytes) {
     return hex;
 }
 
+// A whole number as archives hold it.
+inline std::string int32(unsigned value) {
+    return {reinterpret_cast<const char*>(&value), 4};
+}
+
 // Failed assertions are counted and passed over while one of these exists.
 class PassedAssertions {
 public:

@@ -166,29 +166,21 @@ TEST(Overloads, InflateInAllForms) {
 
 TEST(Overloads, MoveInAllForms) {
     const CDouRect start(10, 20, 30, 40);
-    const Ltrb there(11, 22, 31, 42), back(9, 18, 29, 38);
     const CPosition p(1, 2);
     const DOUPOINT dp{1, 2};
     const CDouSize s(1, 2);
-    EXPECT_EQ(Ltrb(start.Offset(1, 2)), there);
-    EXPECT_EQ(Ltrb(start.Offset(s)), there);
-    EXPECT_EQ(Ltrb(start.Offset(dp)), there);
-    EXPECT_EQ(Ltrb(start + p), there);
-    EXPECT_EQ(Ltrb(start + s), there);
-    EXPECT_EQ(Ltrb(start - dp), back);
-    EXPECT_EQ(Ltrb(start - s), back);
-    CDouRect r = start;
-    r.OffsetRect(1, 2);
-    EXPECT_EQ(Ltrb(r), there);
-    r -= s;
-    r -= dp;
-    EXPECT_EQ(Ltrb(r), back);
-    r += dp;
-    r += s;
-    EXPECT_EQ(Ltrb(r), there);
-    r = start;
-    r.OffsetRect(s);
-    EXPECT_EQ(Ltrb(r), there);
-    r.OffsetRect(p);
-    EXPECT_EQ(Ltrb(r), Ltrb(12, 24, 32, 44));
+    CDouRect byNumbers(start), bySize(start), byPoint(start), plusSize(start), plusPoint(start);
+    byNumbers.OffsetRect(1, 2);
+    bySize.OffsetRect(s);
+    byPoint.OffsetRect(p);
+    plusSize += s;
+    plusPoint += dp;
+    for (const CDouRect& r : {start.Offset(1, 2), start.Offset(s), start.Offset(dp), start + p, start + s,
+                              byNumbers, bySize, byPoint, plusSize, plusPoint})
+        EXPECT_EQ(Ltrb(r), Ltrb(11, 22, 31, 42));
+    CDouRect lessSize(start), lessPoint(start);
+    lessSize -= s;
+    lessPoint -= dp;
+    for (const CDouRect& r : {start - dp, start - s, lessSize, lessPoint})
+        EXPECT_EQ(Ltrb(r), Ltrb(9, 18, 29, 38));
 }

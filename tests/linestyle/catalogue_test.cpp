@@ -9,7 +9,7 @@
 
 #include <math.h>
 
-#include "stored.h"
+#include "afx/afx_test.h"
 
 #include <string>
 

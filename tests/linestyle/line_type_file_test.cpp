@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "stored.h"
+#include "afx/afx_test.h"
 #include "support/message_boxes.h"
 #include "support/scratch_folder.h"
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "stored.h"
+#include "afx/afx_test.h"
 
 #include <functional>
 #include <memory>

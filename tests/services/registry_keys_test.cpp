@@ -9,13 +9,6 @@ namespace {
 
 class RegistryKeys : public RegistryTest {};
 
-template <class Store>
-void expectInfo(const Store& store, LONG result) {
-    EXPECT_EQ(result, store.m_Info.lResult);
-    EXPECT_EQ(0u, store.m_Info.dwType);
-    EXPECT_EQ(0u, store.m_Info.dwSize);
-}
-
 } // namespace
 
 TEST_F(RegistryKeys, Roots) {

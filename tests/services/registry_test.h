@@ -63,6 +63,12 @@ protected:
         return count;
     }
 
+    static void expectInfo(const COrvRegStore& store, LONG result, DWORD type = 0, DWORD size = 0) {
+        EXPECT_EQ(result, store.m_Info.lResult);
+        EXPECT_EQ(type, store.m_Info.dwType);
+        EXPECT_EQ(size, store.m_Info.dwSize);
+    }
+
     DebugEvents events_;
 
 private:

@@ -30,18 +30,13 @@ protected:
         ASSERT_TRUE(store.Write("value", value));
         expectStored(store, "value", type, bytes);
         ASSERT_TRUE(store.Read("value", back));
-        expectInfo(store, 0, type, static_cast<DWORD>(this->value("value").bytes.size()));
+        this->expectInfo(store, 0, type, static_cast<DWORD>(this->value("value").bytes.size()));
     }
     template <class Value>
     void expectRefused(Store& store) {
         Value value;
         EXPECT_FALSE(store.Read("bad", value));
         EXPECT_TRUE(value.IsEmpty());
-    }
-    void expectInfo(const COrvRegStore& store, LONG result, DWORD type, DWORD size) {
-        EXPECT_EQ(result, store.m_Info.lResult);
-        EXPECT_EQ(type, store.m_Info.dwType);
-        EXPECT_EQ(size, store.m_Info.dwSize);
     }
 };
 

@@ -132,7 +132,6 @@ TEST_F(TextPage, FieldsOfThePickers) {
         {IDC_ORV_SIZE, false, L"24", VK_RETURN, "24.00", "size 20 -20 -> 24 -32; "},
         {IDC_ORV_SLOPE, true, L"x", VK_RETURN, "0.00", ""},
         {IDC_ORV_SLOPE, true, L"45", VK_TAB, "45.00", "angle 0.000000 -> 0.785398; "},
-        {IDC_ORV_SLOPE, true, L"", VK_TAB, "0.00", ""},
     };
     for (const auto& row : rows) {
         COrvDrawText text;
