@@ -1,9 +1,10 @@
 #pragma once
 
 #include "resource.h"
+#include "symbols.h"
 
-// A field that takes no number sign.
-class CNoteEdit : public CEdit {
+// A field that keeps its text in upper case letters.
+class CUpperEdit : public CEdit {
 protected:
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
@@ -21,8 +22,21 @@ public:
     int m_nCount;
     BOOL m_bVisible;
     int m_nLines;
-    CNoteEdit m_wndNote;
+    CString m_strSymbolClass;
+    CSymbolCombo m_wndSymbol;
+    CUpperEdit m_wndNote;
 
 protected:
     virtual void DoDataExchange(CDataExchange* pDX);
+    virtual BOOL OnInitDialog();
+    virtual void OnOK();
+    void ShowPicked();
+
+    afx_msg void OnSelchangeSymbol();
+    afx_msg LRESULT OnSymbolPicked(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int m_nSelchanges;
+    int m_nPicked;
 };

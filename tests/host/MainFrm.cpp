@@ -2,6 +2,7 @@
 #include "MainFrm.h"
 #include "Item.h"
 #include "ItemDlg.h"
+#include "Options.h"
 
 /////////////////////////////////////////////////////////////////////////////
 // CPlanView
@@ -28,7 +29,9 @@ void CPlanView::OnPaint() {
     POSITION pos = m_pItems->GetHeadPosition();
     while (pos != NULL) {
         CItem* pItem = (CItem*)m_pItems->GetNext(pos);
-        dc.TextOut(4, y, pItem->GetText());
+        if (pItem->m_pSymbol != NULL)
+            pItem->m_pSymbol->Draw(&dc, CRect(4, y, 18, y + 14));
+        dc.TextOut(24, y, pItem->GetText());
         y += 20;
     }
 }
@@ -43,13 +46,14 @@ ON_WM_CREATE()
 ON_COMMAND(ID_ITEM_ADD, &CMainFrame::OnItemAdd)
 ON_COMMAND(ID_ITEM_CLEAR, &CMainFrame::OnItemClear)
 ON_UPDATE_COMMAND_UI(ID_ITEM_CLEAR, &CMainFrame::OnUpdateItemClear)
+ON_COMMAND(ID_VIEW_OPTIONS, &CMainFrame::OnViewOptions)
 ON_COMMAND(ID_VIEW_FIND, &CMainFrame::OnViewFind)
 ON_COMMAND(ID_FILE_SAVE, &CMainFrame::OnFileSave)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
 ON_MESSAGE(WM_FIND_CHANGED, &CMainFrame::OnFound)
 END_MESSAGE_MAP()
 
-CMainFrame::CMainFrame() : m_pFindDlg(NULL) {}
+CMainFrame::CMainFrame() : m_pFindDlg(NULL), m_dScale(500), m_bGrid(FALSE) {}
 
 CMainFrame::~CMainFrame() {
     RemoveItems();
@@ -83,6 +87,9 @@ void CMainFrame::ShowState() {
     POSITION pos = m_items.GetHeadPosition();
     while (pos != NULL)
         strTitle += _T(" ") + ((CItem*)m_items.GetNext(pos))->GetText();
+    CString strOptions;
+    strOptions.Format(_T(" [%s %g%s]"), (LPCTSTR)m_strSheetName, m_dScale, m_bGrid ? _T("#") : _T(""));
+    strTitle += strOptions;
     if (m_pFindDlg != NULL)
         strTitle += _T(" ?") + m_pFindDlg->m_strWhat;
     SetWindowText(strTitle);
@@ -99,6 +106,9 @@ void CMainFrame::OnItemAdd() {
     pItem->m_nCount = dlg.m_nCount;
     pItem->m_bVisible = dlg.m_bVisible;
     pItem->m_nLines = dlg.m_nLines;
+    CRuntimeClass* pClass = CRuntimeClass::FromName(dlg.m_strSymbolClass);
+    if (pClass != NULL)
+        pItem->m_pSymbol = STATIC_DOWNCAST(CSymbol, pClass->CreateObject());
     m_items.AddTail(pItem);
     ShowState();
 }
@@ -110,6 +120,23 @@ void CMainFrame::OnItemClear() {
 
 void CMainFrame::OnUpdateItemClear(CCmdUI* pCmdUI) {
     pCmdUI->Enable(!m_items.IsEmpty());
+}
+
+void CMainFrame::OnViewOptions() {
+    CPropertySheet sheet(IDS_OPTIONS, this);
+    CSheetPage pageSheet;
+    CScalePage pageScale;
+    pageSheet.m_strSheetName = m_strSheetName;
+    pageScale.m_dScale = m_dScale;
+    pageScale.m_bGrid = m_bGrid;
+    sheet.AddPage(&pageSheet);
+    sheet.AddPage(&pageScale);
+    if (sheet.DoModal() != IDOK)
+        return;
+    m_strSheetName = pageSheet.m_strSheetName;
+    m_dScale = pageScale.m_dScale;
+    m_bGrid = pageScale.m_bGrid;
+    ShowState();
 }
 
 void CMainFrame::OnViewFind() {
@@ -137,6 +164,7 @@ void CMainFrame::OnFileSave() {
     }
     CArchive ar(&file, CArchive::store);
     m_items.Serialize(ar);
+    ar << m_strSheetName << m_dScale << m_bGrid;
     ar.Close();
     CString strTitle;
     GetWindowText(strTitle);
@@ -149,6 +177,7 @@ void CMainFrame::OnFileOpen() {
         CFile file(m_strFile, CFile::modeRead);
         CArchive ar(&file, CArchive::load);
         m_items.Serialize(ar);
+        ar >> m_strSheetName >> m_dScale >> m_bGrid;
     }
     CATCH_ALL(e) {
         e->ReportError();

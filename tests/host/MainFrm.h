@@ -30,6 +30,9 @@ protected:
     CObList m_items;
     CPlanView m_wndView;
     CFindDlg* m_pFindDlg;
+    CString m_strSheetName;
+    double m_dScale;
+    BOOL m_bGrid;
 
     void ShowState();
     void RemoveItems();
@@ -38,6 +41,7 @@ protected:
     afx_msg void OnItemAdd();
     afx_msg void OnItemClear();
     afx_msg void OnUpdateItemClear(CCmdUI* pCmdUI);
+    afx_msg void OnViewOptions();
     afx_msg void OnViewFind();
     afx_msg void OnFileSave();
     afx_msg void OnFileOpen();

@@ -244,15 +244,19 @@ TYPED_TEST(RegistryValues, HostileValues) {
         DWORD type;
         std::vector<BYTE> bytes;
     } rows[] = {
-        {REG_BINARY, ones},      {REG_BINARY, {ones.begin(), ones.begin() + 4096}},
-        {REG_BINARY, {}},        {REG_BINARY, {5, 0, 1, 1}},
-        {REG_SZ, {'0', '0', 0}}, {REG_MULTI_SZ, {0, 0, 0, 0, 0, 0}},
+        {REG_BINARY, ones},        {REG_BINARY, {ones.begin(), ones.begin() + 4096}},
+        {REG_BINARY, {}},          {REG_BINARY, {5, 0, 1, 1}},
+        {REG_SZ, {'0', '0', 0}},   {REG_MULTI_SZ, {0, 0, 0, 0, 0, 0}},
+        {REG_DWORD, {0, 0, 0, 0}}, {REG_BINARY, {0xFE, 0xFF, 0, 0, 0, 0, 0}}, // a count that lies
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
         SCOPED_TRACE(row.bytes.size());
         this->setValue("bad", row.type, row.bytes);
         this->template expectRefused<CStringList>(store);
+        this->template expectRefused<CStringArray>(store);
+        this->template expectRefused<CByteArray>(store);
+        this->template expectRefused<CDWordArray>(store);
         this->template expectRefused<CWordArray>(store);
         this->template expectRefused<CObList>(store);
         POINT point = {7, 8}, *pPoint = &point;
