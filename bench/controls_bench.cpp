@@ -77,8 +77,8 @@ struct Sizes {
     std::vector<HWND> windows;
     bool large = false;
 
-    Sizes() {
-        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 600, 600, NULL, NULL);
+    explicit Sizes(DWORD style) {
+        parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | style, 0, 0, 600, 600, NULL, NULL);
         for (int i = 0; i < children; ++i)
             windows.push_back(::CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE, i % 20 * 30,
                                                 i / 20 * 30, 28, 28, parent.m_hWnd, NULL, NULL, NULL));
@@ -93,7 +93,7 @@ struct Sizes {
 
 struct Resized : Sizes {
     CResizeCtrl control;
-    Resized() {
+    explicit Resized(DWORD style) : Sizes(style) {
         control.Create(&parent);
         for (const HWND window : windows)
             control.Add(window, 50, 25, 25, 50);
@@ -107,7 +107,7 @@ struct Resized : Sizes {
 // The same moves, known beforehand.
 struct Batched : Sizes {
     std::vector<CRect> places;
-    Batched() {
+    explicit Batched(DWORD style) : Sizes(style) {
         for (const HWND window : windows) {
             CRect rect;
             ::GetWindowRect(window, &rect);
@@ -134,8 +134,12 @@ struct Batched : Sizes {
 
 const orv::bench::Rows resizeRows([](orv::bench::Suite& suite) {
     suite.add({"controls", "a size step of 200 children / a bare deferred batch", 1.2,
-               [control = std::make_shared<Resized>()](int times) { control->run(times); },
-               [batch = std::make_shared<Batched>()](int times) { batch->run(times); }});
+               [control = std::make_shared<Resized>(0)](int times) { control->run(times); },
+               [batch = std::make_shared<Batched>(0)](int times) { batch->run(times); }});
+    // There the parent is also asked for each text's brush, to see whether it is seen through.
+    suite.add({"controls", "the same on the screen / a bare deferred batch", 1.5,
+               [control = std::make_shared<Resized>(WS_VISIBLE)](int times) { control->run(times); },
+               [batch = std::make_shared<Batched>(WS_VISIBLE)](int times) { batch->run(times); }});
 });
 
 const orv::bench::Rows barRows([](orv::bench::Suite& suite) {

@@ -42,6 +42,17 @@ int dropDownSurplus(HWND combo) {
     return surplus;
 }
 
+// How a child takes its new place. A text aligned to the side that moves would be painted in the new part
+// only, beside the copy of its old picture.
+UINT flagsOf(const CResizeArray::Move& move) {
+    char name[8] = "";
+    const bool sized = move.before.Size() != CSize(move.box.width, move.box.height);
+    if (sized) {
+        ::GetClassNameA(move.child, name, sizeof(name));
+    }
+    return SWP_NOZORDER | (lstrcmpiA(name, "Static") == 0 ? SWP_NOCOPYBITS : 0);
+}
+
 } // namespace
 
 CResizeCtrl::CResizeCtrl()
@@ -87,6 +98,7 @@ void CResizeCtrl::ForgetParent() {
     m_nParts = defaultParts;
     m_sizeLast = CSize(-1, -1);
     m_bResizing = FALSE;
+    m_bEraseDue = FALSE;
     m_bEnabled = FALSE;
     m_bGrip = FALSE;
     m_rcGrip.SetRectEmpty();
@@ -199,7 +211,8 @@ void CResizeCtrl::Resize(int cx, int cy) {
     PlanMoves(dx, dy);
     const HWND parent = m_hParent;
     MoveChildren();
-    RepaintStale(parent);
+    EraseWhatIsDue(parent);
+    RepaintSeenThrough(parent);
     // The children were told, and so was who owns them: the control may be gone.
     if (orv::resizeControlOf(parent) == this) {
         m_bResizing = FALSE;
@@ -237,7 +250,7 @@ void CResizeCtrl::MoveChildren() {
     for (size_t i = 0; batch != NULL && i < moves.size(); ++i) {
         const ResizeFour& box = moves[i].box;
         batch = ::DeferWindowPos(batch, moves[i].child, NULL, box.left, box.top, box.width, box.height,
-                                 SWP_NOZORDER);
+                                 flagsOf(moves[i]));
     }
     if (batch != NULL && ::EndDeferWindowPos(batch)) {
         return;
@@ -246,24 +259,33 @@ void CResizeCtrl::MoveChildren() {
     for (size_t i = 0; orv::resizeControlOf(parent) == this && i < moves.size(); ++i) {
         const CResizeArray::Move move = moves[i];
         ::SetWindowPos(move.child, NULL, move.box.left, move.box.top, move.box.width, move.box.height,
-                       SWP_NOZORDER);
+                       flagsOf(move));
     }
 }
 
-// What the parent is seen through does not wipe its old picture, and a text aligned to the side that moved is
-// painted in the new part only.
-void CResizeCtrl::RepaintStale(HWND parent) {
+// The children keep what they show.
+void CResizeCtrl::EraseWhatIsDue(HWND parent) {
+    if (orv::resizeControlOf(parent) != this || !m_bEraseDue) {
+        return;
+    }
+    m_bEraseDue = FALSE;
+    CRgn left;
+    left.CreateRectRgn(0, 0, 0, 0);
+    ::GetUpdateRgn(parent, left, FALSE);
+    ::RedrawWindow(parent, NULL, left, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
+}
+
+// What the parent is seen through does not wipe its old picture.
+void CResizeCtrl::RepaintSeenThrough(HWND parent) {
+    if (!::IsWindowVisible(parent)) {
+        return;
+    }
     const HDC dc = ::GetDC(parent);
     for (size_t i = 0; orv::resizeControlOf(parent) == this && i < m_pEntries->moves.size(); ++i) {
         const CResizeArray::Move move = m_pEntries->moves[i];
-        const ResizeFour& box = move.box;
-        char name[8] = "";
-        ::GetClassNameA(move.child, name, sizeof(name));
         if (orv::isSeenThrough(move.child, parent, dc)) {
-            const CRect after(CPoint(box.left, box.top), CSize(box.width, box.height));
+            const CRect after(CPoint(move.box.left, move.box.top), CSize(move.box.width, move.box.height));
             ::InvalidateRect(parent, CRect(move.before | after), TRUE);
-        } else if (lstrcmpiA(name, "Static") == 0) {
-            ::InvalidateRect(move.child, NULL, TRUE);
         }
     }
     ::ReleaseDC(parent, dc);

@@ -111,7 +111,8 @@ private:
     void Resize(int cx, int cy);
     void PlanMoves(int dx, int dy);
     void MoveChildren();
-    void RepaintStale(HWND parent);
+    void EraseWhatIsDue(HWND parent);
+    void RepaintSeenThrough(HWND parent);
     void PlaceGrip();
     BOOL IsGripShown() const;
     void DrawGrip(HDC hDC) const;
@@ -123,6 +124,7 @@ private:
     CSize m_sizeMinimum;
     CSize m_sizeMaximum;
     BOOL m_bResizing;
+    BOOL m_bEraseDue; // of the parent's background, put off while children move
     BOOL m_bEnabled;
     BOOL m_bGrip;
     CRect m_rcGrip; // client coordinates of the parent

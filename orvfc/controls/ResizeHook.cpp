@@ -247,6 +247,13 @@ BOOL CResizeCtrl::OnEraseBkgnd(WPARAM wParam, LPARAM lParam, LRESULT& result) {
     if (::WindowFromDC(dc) != m_hParent) {
         return FALSE; // a picture of the parent, in which the children may not come
     }
+    // Each child that moves asks for it: it stays due until all have moved. Only a paint in between, which
+    // has taken the update region, is served at once.
+    if (m_bResizing && ::GetUpdateRect(m_hParent, NULL, FALSE)) {
+        m_bEraseDue = TRUE;
+        result = 0;
+        return TRUE;
+    }
     const HWND parent = m_hParent;
     const int saved = ::SaveDC(dc);
     // The parent is asked for brushes meanwhile: the control may be gone.
