@@ -23,11 +23,13 @@ constexpr char property[] = "___CResizeCtrl___Class___";
 // What the procedures of this file saw.
 std::vector<HWND> painted;
 int lastMessages = 0;
+int erasings = 0; // of parents
 std::function<void(UINT)> onChildMessage;
 bool givesHollowBrushes = false;
 
 LRESULT CALLBACK parentProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     lastMessages += message == WM_NCDESTROY;
+    erasings += message == WM_ERASEBKGND;
     if (message == WM_CTLCOLORSTATIC && givesHollowBrushes)
         return reinterpret_cast<LRESULT>(::GetStockObject(HOLLOW_BRUSH));
     return message == WM_USER ? 77 : ::DefWindowProcA(hWnd, message, wParam, lParam);
@@ -301,10 +303,12 @@ TEST(ResizeCtrl, AStepPaintsEachChildOnce) {
     ::RedrawWindow(parent.window, NULL, NULL, RDW_UPDATENOW | RDW_ALLCHILDREN);
     for (int step = 1; step <= 3; ++step) {
         painted.clear();
+        erasings = 0;
         parent.size(400 + 40 * step, 300 + 10 * step);
         ::RedrawWindow(parent.window, NULL, NULL, RDW_UPDATENOW | RDW_ALLCHILDREN);
         EXPECT_EQ(count, painted.size());
         EXPECT_EQ(count, std::set<HWND>(painted.begin(), painted.end()).size());
+        EXPECT_GE(2, erasings) << "once for its own growth, once for what its children left";
     }
 }
 
